@@ -1,0 +1,32 @@
+#pragma once
+// The viewer's main window: the floor plan in the middle, menus, a status bar
+// that tells what the process found at start-up, and undoable re-generation.
+#include "orq_main_window.h"
+
+class FLOORPLAN_WIDGET;
+class QLabel;
+
+class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
+  Q_OBJECT
+public:
+  FLOORPLAN_WINDOW(unsigned seed, int block_count);
+  ~FLOORPLAN_WINDOW() override;
+
+  unsigned seed() const;
+  void set_seed(unsigned seed);
+
+public slots:
+  void regenerate();
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+
+private:
+  void build_menus();
+  void restore_geometry();
+
+  FLOORPLAN_WIDGET* m_view;
+  QLabel* m_hover;
+  unsigned m_seed;
+  int m_block_count;
+};

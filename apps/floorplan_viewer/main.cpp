@@ -1,0 +1,53 @@
+// The floor-plan viewer: the sample tool of the framework. Run it with
+// --screenshot FILE to render the main window to a PNG and exit.
+#include "floorplan_window.h"
+
+#include <orq.h>
+
+#include <QCommandLineParser>
+#include <QTimer>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+  auto** args = const_cast<const char**>(argv);
+  char** qt_argv = ORQ_APP::copy_argv_for_qt(argc, args);
+  int qt_argc = argc;
+  ORQ_APP app(qt_argc, qt_argv);
+  QCoreApplication::setOrganizationName(QStringLiteral("Vantor"));
+  QCoreApplication::setApplicationName(QStringLiteral("floorplan_viewer"));
+  app.init_instance(argc, args);
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral("Floor plan viewer of the Vantor suite"));
+  parser.addHelpOption();
+  const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                      QStringLiteral("Render the main window to a PNG file and exit."),
+                                      QStringLiteral("file"));
+  const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Floor plan generator seed."),
+                                QStringLiteral("n"), QStringLiteral("7"));
+  const QCommandLineOption blocks(QStringLiteral("blocks"), QStringLiteral("Number of blocks (1-24)."),
+                                  QStringLiteral("n"), QStringLiteral("18"));
+  parser.addOptions({screenshot, seed, blocks});
+  parser.process(app);
+
+  FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24));
+  window.show();
+
+  int rc = 0;
+  if (parser.isSet(screenshot)) {
+    QCoreApplication::processEvents();
+    const QString file = parser.value(screenshot);
+    if (!window.grab().save(file, "PNG")) {
+      std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));
+      rc = 1;
+    } else {
+      std::printf("floorplan_viewer: screenshot written to %s\n", qPrintable(file));
+    }
+  } else {
+    rc = app.exec();
+  }
+  app.exit_instance();
+  return rc;
+}

@@ -1,0 +1,12 @@
+#pragma once
+// Everything a tool of the suite builds its windows from, in one include.
+// Each header can also be included on its own by its class's name.
+#include "orq_export.h"
+
+#include "orq_app.h"
+#include "orq_app_event_filter.h"
+#include "orq_dialog.h"
+#include "orq_fonts.h"
+#include "orq_main_window.h"
+#include "orq_proxy_style.h"
+#include "orq_safe_connect.h"

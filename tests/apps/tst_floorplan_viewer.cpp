@@ -1,0 +1,98 @@
+// The sample tool, run as a user runs it.
+#include "orq_test_support.h"
+
+#include <QImage>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+int run_viewer(const QString& home, const QStringList& args, QString* err = nullptr)
+{
+  QProcess viewer;
+  viewer.setProcessEnvironment(orq_test_child_environment(home));
+  viewer.setWorkingDirectory(home);
+  viewer.start(QStringLiteral(ORQ_VIEWER_PATH), args);
+  if (!viewer.waitForFinished(60000)) {
+    viewer.kill();
+    viewer.waitForFinished();
+    return -1;
+  }
+  if (err)
+    *err = QString::fromLocal8Bit(viewer.readAllStandardError());
+  return viewer.exitStatus() == QProcess::NormalExit ? viewer.exitCode() : -2;
+}
+
+int distinct_colours(const QImage& image)
+{
+  QSet<QRgb> colours;
+  for (int y = 0; y < image.height(); y += 4)
+    for (int x = 0; x < image.width(); x += 4)
+      colours.insert(image.pixel(x, y));
+  return colours.size();
+}
+}  // namespace
+
+class TST_FLOORPLAN_VIEWER : public QObject {
+  Q_OBJECT
+private slots:
+  void initTestCase() { orq_test_strict_messages(); }
+
+  void screenshot_shows_the_floor_plan_data()
+  {
+    QTest::addColumn<QByteArray>("settings");
+    QTest::newRow("fresh home") << QByteArray();
+    QTest::newRow("damaged settings file") << QByteArray("\x00\xff\x13garbage\n[", 12);
+  }
+
+  void screenshot_shows_the_floor_plan()
+  {
+    QFETCH(QByteArray, settings);
+    QTemporaryDir home;
+    const QString settings_file = home.filePath(QStringLiteral(".config/Vantor/vantor_settings.ini"));
+    if (!settings.isNull()) {
+      QDir().mkpath(QFileInfo(settings_file).absolutePath());
+      QFile file(settings_file);
+      QVERIFY(file.open(QIODevice::WriteOnly));
+      file.write(settings);
+    }
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QString err;
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}, &err), 0);
+    const QImage image(png);
+    QVERIFY(!image.isNull());
+    QCOMPARE(image.size(), QSize(1100, 760));
+    // Die, pads and blocks of eight cell colours, with text: far more than a
+    // blank window's handful of colours.
+    QVERIFY2(distinct_colours(image) > 40, qPrintable(QString::number(distinct_colours(image))));
+    if (!settings.isNull()) {
+      QVERIFY2(err.contains(QStringLiteral("is damaged")), qPrintable(err));
+      const QStringList copies = QDir(QFileInfo(settings_file).absolutePath())
+                                     .entryList({QStringLiteral("vantor_settings.ini.damaged-*")});
+      QCOMPARE(copies.size(), 1);
+    }
+  }
+
+  void same_seed_draws_the_same_plan()
+  {
+    QTemporaryDir home;
+    const QString a = home.filePath(QStringLiteral("a.png"));
+    const QString b = home.filePath(QStringLiteral("b.png"));
+    const QString c = home.filePath(QStringLiteral("c.png"));
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), a, QStringLiteral("--seed"), QStringLiteral("3")}), 0);
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), b, QStringLiteral("--seed"), QStringLiteral("3")}), 0);
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), c, QStringLiteral("--seed"), QStringLiteral("4")}), 0);
+    QCOMPARE(QImage(a), QImage(b));
+    QVERIFY(QImage(a) != QImage(c));
+  }
+
+  void unwritable_screenshot_fails_with_a_message()
+  {
+    QTemporaryDir home;
+    QString err;
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), home.filePath(QStringLiteral("no/such/dir/x.png"))}, &err), 1);
+    QVERIFY(err.contains(QStringLiteral("cannot write")));
+  }
+};
+
+ORQ_TEST_REGISTER(TST_FLOORPLAN_VIEWER);
+#include "tst_floorplan_viewer.moc"

@@ -1,0 +1,134 @@
+// A small tool of the suite that the tests start as a child process, to see
+// what a real process does: its files, its standard error, its exit.
+//   orq_test_app event-log N        start up, feed N rounds of input, shut down
+//   orq_test_app processors ROOT    start up against a processor tree, print counts
+//   orq_test_app bad-connect        orq_safe_connect with a signal that does not exist
+//   orq_test_app require            a failed precondition of module ORQ
+//   orq_test_app qt-fatal           qFatal under the full message handler
+//   orq_test_app message-window     Qt messages mirrored into the message window
+//   orq_test_app start-up           full start-up and shutdown, print the settings problem
+#include <orq.h>
+
+#include <gen_internal_error.h>
+#include <gen_machine_info.h>
+#include <gen_settings.h>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QThread>
+#include <QVBoxLayout>
+
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+namespace {
+int run(ORQ_APP& app, const QStringList& args)
+{
+  const QString mode = args.value(1);
+  if (mode == QLatin1String("event-log")) {
+    const int rounds = args.value(2).toInt();
+    if (rounds > 0) {
+      QWidget window;
+      window.setObjectName(QStringLiteral("main"));
+      auto* layout = new QVBoxLayout(&window);
+      auto* edit = new QLineEdit(&window);
+      edit->setObjectName(QStringLiteral("name_edit"));
+      layout->addWidget(edit);
+      window.show();
+      if (!QTest::qWaitForWindowExposed(&window))
+        return 4;
+      for (int i = 0; i < rounds; ++i) {
+        QTest::keyClick(edit, Qt::Key_A);
+        QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+      }
+      // Between the records, make the log unwritable: that record is lost,
+      // the next one is written.
+      if (args.value(3) == QLatin1String("block")) {
+        ORQ_APP_EVENT_FILTER* filter = app.findChild<ORQ_APP_EVENT_FILTER*>();
+        const QString log = filter->get_log_file_name();
+        const QString aside = log + QStringLiteral(".aside");
+        QFile::rename(log, aside);
+        QDir().mkdir(log);  // a directory cannot be opened for appending
+        QTest::keyClick(edit, Qt::Key_B);
+        QDir().rmdir(log);
+        QFile::rename(aside, log);
+        QTest::keyClick(edit, Qt::Key_C);
+      }
+    }
+    return 0;
+  }
+  if (mode == QLatin1String("processors")) {
+    std::printf("cores=%d logical=%d\n", gen_processor_mgr().cores(), gen_processor_mgr().logical_processors());
+    return 0;
+  }
+  if (mode == QLatin1String("bad-connect")) {
+    QObject sender;
+    QObject receiver;
+    orq_safe_connect(&sender, SIGNAL(no_such_signal(int)), &receiver, SLOT(deleteLater()),
+                     Qt::AutoConnection, "tool_window.cpp", 77);
+    return 0;
+  }
+  if (mode == QLatin1String("require")) {
+    const void* m_view = nullptr;
+    GEN_REQUIRE("ORQ", m_view != NULL);
+    return 0;
+  }
+  if (mode == QLatin1String("qt-fatal")) {
+    qFatal("the display connection is gone");
+    return 0;
+  }
+  if (mode == QLatin1String("message-window")) {
+    ORQ_MAIN_WINDOW window;
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+      return 4;
+    qWarning("first message");
+    std::unique_ptr<QThread> worker(QThread::create([] { qCritical("from a worker thread"); }));
+    worker->start();
+    worker->wait();
+    QCoreApplication::processEvents();
+    auto* dialog = window.findChild<QDialog*>(QStringLiteral("orq_qt_message_window"));
+    if (!dialog)
+      return 3;
+    std::printf("title=%s\n", qPrintable(dialog->windowTitle()));
+    std::printf("visible=%d\n", dialog->isVisible() ? 1 : 0);
+    std::printf("text=%s\n", qPrintable(dialog->findChild<QPlainTextEdit*>()->toPlainText()));
+    return 0;
+  }
+  if (mode == QLatin1String("start-up")) {
+    gen_settings().set_value(QStringLiteral("Test"), QStringLiteral("started"), true);
+    const bool saved = gen_settings().sync();
+    std::printf("problem=%s\nsaved=%d\n", qPrintable(gen_settings().problem()), saved ? 1 : 0);
+    return 0;
+  }
+  std::fprintf(stderr, "orq_test_app: unknown mode %s\n", qPrintable(mode));
+  return 2;
+}
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  // The processor tree must be in place before init_instance reads it.
+  std::unique_ptr<GEN_MACHINE_INFO> machine;
+  if (argc > 2 && std::strcmp(argv[1], "processors") == 0) {
+    machine = std::make_unique<GEN_MACHINE_INFO>(QString::fromLocal8Bit(argv[2]));
+    gen_set_machine_info(machine.get());
+  }
+  auto** args = const_cast<const char**>(argv);
+  char** qt_argv = ORQ_APP::copy_argv_for_qt(argc, args);
+  int qt_argc = argc;
+  int rc = 0;
+  {
+    ORQ_APP app(qt_argc, qt_argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orq_test_app"));
+    app.init_instance(argc, args);
+    rc = run(app, QCoreApplication::arguments());
+    app.exit_instance();
+  }
+  gen_set_machine_info(nullptr);
+  return rc;
+}
