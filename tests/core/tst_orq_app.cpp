@@ -15,6 +15,7 @@
 #include <QStyleFactory>
 #include <QFontDatabase>
 #include <QPainter>
+#include <QPointer>
 #include <QSpinBox>
 #include <QStyleOption>
 
@@ -39,6 +40,25 @@ QStringList g_recorded;
 void recording_handler(QtMsgType, const QMessageLogContext&, const QString& message)
 {
   g_recorded << message;
+}
+
+// A tool calls copy_argv_for_qt once, before Qt starts. Calling it again in
+// a running test process must leave the test's message handler in place, and
+// the style it replaces is deleted here, since only the last style set
+// belongs to the application.
+char** copy_argv_again(int argc, const char** argv, bool restore_handler = true)
+{
+  const QtMessageHandler handler = qInstallMessageHandler(nullptr);
+  qInstallMessageHandler(handler);
+  // Qt deletes a replaced style it owns; the first one, set before the
+  // application existed, it does not.
+  QPointer<QStyle> replaced = QApplication::style();
+  char** copy = ORQ_APP::copy_argv_for_qt(argc, argv);
+  if (restore_handler)
+    qInstallMessageHandler(handler);
+  if (replaced && replaced != QApplication::style())
+    delete replaced.data();
+  return copy;
 }
 
 QImage render(const std::function<void(QPainter&)>& draw)
@@ -98,10 +118,7 @@ private slots:
       argv.push_back(args.at(int(i)) == QLatin1String("<null>") ? nullptr : storage[i].constData());
     argv.push_back(nullptr);
 
-    const QtMessageHandler before = qInstallMessageHandler(nullptr);
-    qInstallMessageHandler(before);
-    char** copy = ORQ_APP::copy_argv_for_qt(argc, null_vector ? nullptr : argv.data());
-    qInstallMessageHandler(before);
+    char** copy = copy_argv_again(argc, null_vector ? nullptr : argv.data());
 
     if (expected.isEmpty()) {
       QCOMPARE(copy, nullptr);
@@ -125,10 +142,7 @@ private slots:
     qunsetenv("QMLSCENE_DEVICE");
     qunsetenv("QML_DISABLE_DISK_CACHE");
     const char* argv[] = {"tool", nullptr};
-    const QtMessageHandler before = qInstallMessageHandler(nullptr);
-    qInstallMessageHandler(before);
-    ORQ_APP::copy_argv_for_qt(1, argv);
-    qInstallMessageHandler(before);
+    copy_argv_again(1, argv);
     QCOMPARE(qgetenv("QMLSCENE_DEVICE"), QByteArray("software"));
     QCOMPARE(qgetenv("QML_DISABLE_DISK_CACHE"), QByteArray("1"));
     QCOMPARE(gen_memory().release_rate(), 256.0);
@@ -155,7 +169,9 @@ private slots:
     g_recorded.clear();
     const QtMessageHandler before = qInstallMessageHandler(recording_handler);
     const char* argv[] = {"tool", nullptr};
-    ORQ_APP::copy_argv_for_qt(1, argv);
+    // The filtering handler passes on to the one installed before it: here
+    // the recorder.
+    copy_argv_again(1, argv, false);
     qWarning("a warning");
     qInstallMessageHandler(before);
     if (!variable.isEmpty())
