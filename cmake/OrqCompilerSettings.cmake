@@ -27,6 +27,12 @@ if(ORQ_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(ORQ_BUILD_FUZZ)
+  # The library code is what is fuzzed: it needs the coverage instrumentation.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 if(ORQ_CUSTOMER_BUILD)
   add_compile_definitions(ORQ_CUSTOMER_BUILD)
 endif()

@@ -25,6 +25,37 @@ constexpr qint64 k_max_file_size = 4 * 1024 * 1024;
 
 GEN_CONFIG_VARS::~GEN_CONFIG_VARS() = default;
 
+QHash<QString, GEN_INI_CONFIG_VARS::ENTRY>
+GEN_INI_CONFIG_VARS::parse(const QByteArray& text, const QString& shown_name,
+                           const std::function<void(const QString&)>& warn)
+{
+  QHash<QString, ENTRY> entries;
+  const QList<QByteArray> lines = text.split('\n');
+  for (int index = 0; index < lines.size(); ++index) {
+    const int line_number = index + 1;
+    const QString line = QString::fromUtf8(lines.at(index)).trimmed();
+    if (line.isEmpty() || line.startsWith(QLatin1Char('#')) || line.startsWith(QLatin1Char(';')))
+      continue;
+    const int eq = line.indexOf(QLatin1Char('='));
+    const QString name = eq > 0 ? line.left(eq).trimmed() : QString();
+    if (eq <= 0 || !is_valid_name(name)) {
+      warn(QStringLiteral("%1:%2: ignored \"%3\": expected a line of the form name=value")
+               .arg(shown_name)
+               .arg(line_number)
+               .arg(line.left(80)));
+      continue;
+    }
+    if (entries.contains(name))
+      warn(QStringLiteral("%1:%2: %3 is set again; line %4 is ignored")
+               .arg(shown_name)
+               .arg(line_number)
+               .arg(name)
+               .arg(entries.value(name).line));
+    entries.insert(name, ENTRY{line.mid(eq + 1).trimmed(), line_number});
+  }
+  return entries;
+}
+
 bool gen_parse_bool(const QString& text, bool* ok)
 {
   const QString t = text.trimmed().toLower();
@@ -72,32 +103,8 @@ void GEN_INI_CONFIG_VARS::load()
                                         .arg(m_path, file.errorString()));
       return;
     }
-    int line_number = 0;
-    QHash<QString, ENTRY> entries;
-    while (!file.atEnd()) {
-      ++line_number;
-      const QString line = QString::fromUtf8(file.readLine()).trimmed();
-      if (line.isEmpty() || line.startsWith(QLatin1Char('#')) || line.startsWith(QLatin1Char(';')))
-        continue;
-      const int eq = line.indexOf(QLatin1Char('='));
-      const QString name = eq > 0 ? line.left(eq).trimmed() : QString();
-      if (eq <= 0 || !is_valid_name(name)) {
-        gen_message_service().warning(
-            QStringLiteral("%1:%2: ignored \"%3\": expected a line of the form name=value")
-                .arg(shown)
-                .arg(line_number)
-                .arg(line.left(80)));
-        continue;
-      }
-      if (entries.contains(name))
-        gen_message_service().warning(
-            QStringLiteral("%1:%2: %3 is set again; line %4 is ignored")
-                .arg(shown)
-                .arg(line_number)
-                .arg(name)
-                .arg(entries.value(name).line));
-      entries.insert(name, ENTRY{line.mid(eq + 1).trimmed(), line_number});
-    }
+    QHash<QString, ENTRY> entries =
+        parse(file.readAll(), shown, [](const QString& text) { gen_message_service().warning(text); });
     std::lock_guard<std::mutex> lock(m_mutex);
     m_entries = std::move(entries);
   });

@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <mutex>
 
 class GEN_EXPORT GEN_CONFIG_VARS {
@@ -34,11 +35,16 @@ public:
   // The file this service reads (resolved at construction).
   QString path() const;
 
-private:
   struct ENTRY {
     QString value;
     int line = 0;
   };
+  // Parses the text of a configuration file; warn is called once for each
+  // line that is not name=value, naming shown_name and the line.
+  static QHash<QString, ENTRY> parse(const QByteArray& text, const QString& shown_name,
+                                     const std::function<void(const QString&)>& warn);
+
+private:
   void load();
   const ENTRY* find(const QString& name);
   void warn_once(const QString& name, const QString& text);

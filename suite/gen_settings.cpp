@@ -15,10 +15,12 @@
 namespace {
 std::atomic<GEN_SETTINGS*> g_service{nullptr};
 
+}  // namespace
+
 // What QSettings' INI reader keeps: sections, name=value lines, comments. A
 // file with anything else (binary junk, a truncated write) would be silently
 // shortened on the next save, so such a file is copied aside first.
-bool looks_like_ini(const QByteArray& data)
+bool GEN_SETTINGS::is_well_formed(const QByteArray& data)
 {
   if (data.contains('\0'))
     return false;
@@ -39,7 +41,6 @@ bool looks_like_ini(const QByteArray& data)
   }
   return true;
 }
-}  // namespace
 
 GEN_SETTINGS::GEN_SETTINGS(const QString& file_name)
     : m_file_name(file_name.isEmpty() ? default_file_name() : file_name)
@@ -98,7 +99,7 @@ bool GEN_SETTINGS::check_file()
   }
   // Settings files are small; a huge one is damaged, and is not read whole.
   const QByteArray data = file.read(8 * 1024 * 1024 + 1);
-  if (data.size() <= 8 * 1024 * 1024 && looks_like_ini(data))
+  if (data.size() <= 8 * 1024 * 1024 && is_well_formed(data))
     return false;
   file.close();
   const QString copy = m_file_name + QStringLiteral(".damaged-")

@@ -43,6 +43,9 @@ public:
   // Why the file could not be used, or empty.
   QString problem() const;
   static QString default_file_name();
+  // Whether text is an INI file that the registry reads back without loss:
+  // UTF-8, sections, name=value lines and comments only.
+  static bool is_well_formed(const QByteArray& text);
 
 private:
   // Reports a problem with the file; true when it is damaged and a copy was kept.

@@ -3,6 +3,8 @@
 #include <QRandomGenerator>
 #include <QStringList>
 
+#include <algorithm>
+
 FLOORPLAN make_floorplan(unsigned seed, int block_count)
 {
   QRandomGenerator random(seed);
@@ -30,7 +32,7 @@ FLOORPLAN make_floorplan(unsigned seed, int block_count)
 
   // Blocks on a coarse grid of the core so they never overlap.
   const int columns = 6;
-  const int rows = 4;
+  const int rows = std::max(1, (block_count + columns - 1) / columns);
   const int cell_w = plan.core.width() / columns;
   const int cell_h = plan.core.height() / rows;
   for (int i = 0; i < block_count && i < columns * rows; ++i) {
