@@ -1,5 +1,10 @@
 #include "floorplan_widget.h"
 
+#include <orq_brush.h>
+#include <orq_color.h>
+#include <orq_font.h>
+#include <orq_pen.h>
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -7,10 +12,7 @@ FLOORPLAN_WIDGET::FLOORPLAN_WIDGET(QWidget* parent)
     : QWidget(parent)
 {
   setMouseTracking(true);
-  setAutoFillBackground(true);
-  QPalette p = palette();
-  p.setColor(QPalette::Window, QColor(0x1e2430));
-  setPalette(p);
+  setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void FLOORPLAN_WIDGET::set_floorplan(const FLOORPLAN& plan)
@@ -38,35 +40,44 @@ QTransform FLOORPLAN_WIDGET::logical_to_widget() const
 
 void FLOORPLAN_WIDGET::paintEvent(QPaintEvent*)
 {
+  // Every colour, pen and font comes from the theme, so the Options dialog
+  // changes what is drawn here.
   QPainter painter(this);
+  painter.fillRect(rect(), ORQ_COLOR(ORQ_FPV_BACKGROUND_COLOR).get_color());
   painter.setRenderHint(QPainter::Antialiasing);
   const QTransform t = logical_to_widget();
 
-  painter.setPen(QPen(QColor(0x8a94a6), 2));
-  painter.setBrush(QColor(0x2b3242));
+  painter.setPen(*ORQ_PEN(ORQ_FPV_DIE_PEN).get_pen());
+  painter.setBrush(ORQ_COLOR(ORQ_FPV_DIE_COLOR).get_color());
   painter.drawRect(t.mapRect(QRectF(m_plan.die)));
-  painter.setPen(QPen(QColor(0x56607a), 1, Qt::DashLine));
-  painter.setBrush(Qt::NoBrush);
+  painter.setPen(*ORQ_PEN(ORQ_FPV_CORE_PEN).get_pen());
+  painter.setBrush(ORQ_COLOR(ORQ_FPV_CORE_COLOR).get_color());
   painter.drawRect(t.mapRect(QRectF(m_plan.core)));
 
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0xc9a227));
+  painter.setBrush(ORQ_COLOR(ORQ_FPV_PAD_COLOR).get_color());
   for (const QRect& pad : m_plan.io_pads)
     painter.drawRect(t.mapRect(QRectF(pad)));
 
-  QFont label_font = font();
-  label_font.setPointSizeF(std::max(6.0, label_font.pointSizeF() * 0.85));
-  painter.setFont(label_font);
+  const ORQ_FONT name_font(ORQ_FPV_BLOCK_NAME_FONT);
+  const ORQ_FONT cell_font(ORQ_FPV_CELL_TYPE_FONT);
+  QPen block_pen = *ORQ_PEN(ORQ_FPV_BLOCK_PEN).get_pen();
   for (const FLOORPLAN_BLOCK& block : m_plan.blocks) {
     const QRectF r = t.mapRect(QRectF(block.rect));
-    painter.setPen(QPen(block.fill.lighter(140), 1.5));
+    block_pen.setColor(block.fill.lighter(140));
+    painter.setPen(block_pen);
     QColor fill = block.fill;
     fill.setAlpha(170);
     painter.setBrush(fill);
     painter.drawRect(r);
-    painter.setPen(Qt::white);
-    painter.drawText(r.adjusted(4, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                     block.name + QLatin1Char('\n') + block.cell);
+    const QRectF text_rect = r.adjusted(4, 2, -4, -2);
+    painter.setPen(name_font.get_text_color().get_color());
+    painter.setFont(name_font.get_font());
+    painter.drawText(text_rect, Qt::AlignLeft | Qt::AlignTop, block.name);
+    painter.setPen(cell_font.get_text_color().get_color());
+    painter.setFont(cell_font.get_font());
+    painter.drawText(text_rect.adjusted(0, QFontMetricsF(name_font.get_font()).height(), 0, 0),
+                     Qt::AlignLeft | Qt::AlignTop, block.cell);
   }
 }
 

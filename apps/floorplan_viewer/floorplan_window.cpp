@@ -10,6 +10,8 @@
 #include <gen_undo_redo_mgr.h>
 
 #include <QAction>
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -111,11 +113,42 @@ void FLOORPLAN_WINDOW::build_menus()
                                         &FLOORPLAN_WINDOW::regenerate);
   regenerate->setShortcut(QKeySequence(QStringLiteral("Ctrl+R")));
 
+  QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
+  tools->addAction(QStringLiteral("&Options..."), this, &FLOORPLAN_WINDOW::open_options);
+
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
   help->addAction(QStringLiteral("&About Floor Plan Viewer"), this, [this] {
     QMessageBox::about(this, QStringLiteral("About Floor Plan Viewer"),
                        QStringLiteral("Floor Plan Viewer\nThe sample tool of the ORQ framework."));
   });
+}
+
+ORQ_DIALOG* FLOORPLAN_WINDOW::make_options_dialog()
+{
+  auto* dialog = new ORQ_DIALOG(this);
+  dialog->setObjectName(QStringLiteral("floorplan_options"));
+  dialog->setWindowTitle(QStringLiteral("Options"));
+  auto* page = new ORQ_THEME_OPTIONS_PAGE(dialog);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
+  auto* layout = new QVBoxLayout(dialog);
+  layout->addWidget(page);
+  layout->addWidget(buttons);
+  dialog->resize(640, 520);
+  connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  // Changes show at once; OK keeps them for the next start, Cancel undoes them.
+  connect(page, &ORQ_THEME_OPTIONS_PAGE::theme_changed, m_view, QOverload<>::of(&QWidget::update));
+  connect(dialog, &QDialog::accepted, page, &ORQ_THEME_OPTIONS_PAGE::apply);
+  connect(dialog, &QDialog::rejected, page, &ORQ_THEME_OPTIONS_PAGE::revert);
+  return dialog;
+}
+
+int FLOORPLAN_WINDOW::open_options()
+{
+  ORQ_DIALOG* dialog = make_options_dialog();
+  const int result = dialog->exec();
+  delete dialog;
+  return result;
 }
 
 void FLOORPLAN_WINDOW::restore_geometry()

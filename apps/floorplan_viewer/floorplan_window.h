@@ -4,6 +4,7 @@
 #include "orq_main_window.h"
 
 class FLOORPLAN_WIDGET;
+class ORQ_DIALOG;
 class QLabel;
 
 class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
@@ -17,6 +18,10 @@ public:
 
 public slots:
   void regenerate();
+  // Tools > Options: the theme colours and fonts. Returns the dialog result.
+  int open_options();
+  // The Options dialog, built but not run (for screenshots and tests).
+  ORQ_DIALOG* make_options_dialog();
 
 protected:
   void closeEvent(QCloseEvent* event) override;

@@ -29,13 +29,23 @@ int main(int argc, char** argv)
                                 QStringLiteral("n"), QStringLiteral("7"));
   const QCommandLineOption blocks(QStringLiteral("blocks"), QStringLiteral("Number of blocks (1-24)."),
                                   QStringLiteral("n"), QStringLiteral("18"));
-  parser.addOptions({screenshot, seed, blocks});
+  const QCommandLineOption options_shot(QStringLiteral("options-screenshot"),
+                                        QStringLiteral("Render the Options dialog to a PNG file and exit."),
+                                        QStringLiteral("file"));
+  parser.addOptions({screenshot, seed, blocks, options_shot});
   parser.process(app);
 
   FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24));
   window.show();
 
   int rc = 0;
+  if (parser.isSet(options_shot)) {
+    ORQ_DIALOG* dialog = window.make_options_dialog();
+    dialog->show();
+    QCoreApplication::processEvents();
+    rc = dialog->grab().save(parser.value(options_shot), "PNG") ? 0 : 1;
+    delete dialog;
+  }
   if (parser.isSet(screenshot)) {
     QCoreApplication::processEvents();
     const QString file = parser.value(screenshot);
@@ -45,7 +55,7 @@ int main(int argc, char** argv)
     } else {
       std::printf("floorplan_viewer: screenshot written to %s\n", qPrintable(file));
     }
-  } else {
+  } else if (!parser.isSet(options_shot)) {
     rc = app.exec();
   }
   app.exit_instance();

@@ -1,0 +1,36 @@
+// Written by tools/gen_theme_tables.py; edit the generator, not this file.
+#pragma once
+// Theme brushes: value 0 is no brush.
+enum ORQ_BRUSH_RESOURCE {
+  ORQ_MIN_BRUSH = 0,
+  ORQ_BLACK_BRUSH                  = 1,
+  ORQ_WHITE_BRUSH                  = 2,
+  ORQ_BLUE_BRUSH                   = 3,
+  ORQ_GREEN_BRUSH                  = 4,
+  ORQ_RED_BRUSH                    = 5,
+  ORQ_CYAN_BRUSH                   = 6,
+  ORQ_PINK_BRUSH                   = 7,
+  ORQ_YELLOW_BRUSH                 = 8,
+  ORQ_DARK_BLUE_BRUSH              = 9,
+  ORQ_DARK_GREEN_BRUSH             = 10,
+  ORQ_DARK_RED_BRUSH               = 11,
+  ORQ_DARK_CYAN_BRUSH              = 12,
+  ORQ_DARK_PINK_BRUSH              = 13,
+  ORQ_BROWN_BRUSH                  = 14,
+  ORQ_DARK_GRAY_BRUSH              = 15,
+  ORQ_GRAY_BRUSH                   = 16,
+  ORQ_EMPTY_BRUSH                  = 17,
+  ORQ_WINDOW_TEXT_BRUSH            = 18,
+  ORQ_WINDOW_BACKGROUND_BRUSH      = 19,
+  ORQ_WINDOW_HIGHLIGHT_BRUSH       = 20,
+  ORQ_WINDOW_HIGHLIGHT_TEXT_BRUSH  = 21,
+  ORQ_WINDOW_3D_FACE_BRUSH         = 22,
+  ORQ_WINDOW_3D_HIGHLIGHT_BRUSH    = 23,
+  ORQ_WINDOW_3D_LIGHT_BRUSH        = 24,
+  ORQ_WINDOW_3D_SHADOW_BRUSH       = 25,
+  ORQ_WINDOW_3D_DARK_SHADOW_BRUSH  = 26,
+  ORQ_WINDOW_TOOLTIP_BKGND_BRUSH   = 27,
+  ORQ_WINDOW_TOOLTIP_TEXT_BRUSH    = 28,
+  ORQ_GED_BACKGROUND_BRUSH         = 29,
+  ORQ_MAX_BRUSH = 30
+};
