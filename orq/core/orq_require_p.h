@@ -3,5 +3,10 @@
 // of module "ORQ" with the condition's own text, file and line. Never returns.
 #include "gen_internal_error.h"
 
-#define ORQ_REQUIRE(cond) GEN_REQUIRE("ORQ", cond)
+// Stringified here, not passed on to GEN_REQUIRE: an argument passed through
+// another macro is expanded first, and NULL would read "__null".
+#define ORQ_REQUIRE(cond)                                                                          \
+  do {                                                                                             \
+    if (!(cond)) ::gen_internal_error(#cond, "ORQ", __FILE__, __LINE__);                           \
+  } while (false)
 #define ORQ_INTERNAL_ERROR(text) ::gen_internal_error(text, "ORQ", __FILE__, __LINE__)

@@ -49,17 +49,24 @@ bool ORQ_FONT::operator==(const ORQ_FONT& other) const
 
 QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
 {
+  // The colours are read field by field so that any failure inside the
+  // record is reported as the font's.
   qint32 resource = 0;
-  ORQ_FONT_RECORD record;
-  stream >> resource;
-  record.m_text_color >> stream;
-  record.m_background_color >> stream;
-  stream >> record.m_font;
+  qint32 text_resource = 0;
+  qint32 background_resource = 0;
+  QColor text;
+  QColor background;
+  QFont font;
+  stream >> resource >> text_resource >> text >> background_resource >> background >> font;
   if (stream.status() != QDataStream::Ok
-      || (resource != ORQ_MIN_FONT && !orq_gdi_mgr()->get_font_data(ORQ_FONT_RESOURCE(resource))))
+      || (resource != ORQ_MIN_FONT && !orq_gdi_mgr()->get_font_data(ORQ_FONT_RESOURCE(resource)))
+      || !orq_theme_color_exists(text_resource) || !orq_theme_color_exists(background_resource))
     ORQ_INTERNAL_ERROR("Error at ORQ_FONT::operator >>");
   m_font_resource = ORQ_FONT_RESOURCE(resource);
-  *m_font = record;
+  m_font->m_text_color = text_resource ? ORQ_COLOR(ORQ_COLOR_RESOURCE(text_resource)) : ORQ_COLOR(text);
+  m_font->m_background_color =
+      background_resource ? ORQ_COLOR(ORQ_COLOR_RESOURCE(background_resource)) : ORQ_COLOR(background);
+  m_font->m_font = font;
   return stream;
 }
 

@@ -180,7 +180,7 @@ void ORQ_THEME_OPTIONS_PAGE::change_current()
   const int id = item->data(0, k_resource_role).toInt();
   if (list == m_colors) {
     const QColor before = ORQ_COLOR::get_default_color(ORQ_COLOR_RESOURCE(id));
-    const QColor chosen = QColorDialog::getColor(before, this, item->text(0));
+    const QColor chosen = QColorDialog::getColor(before, this, item->text(0), QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid() || chosen == before)
       return;
     ORQ_COLOR::set_default_color(ORQ_COLOR_RESOURCE(id), chosen);
@@ -189,7 +189,8 @@ void ORQ_THEME_OPTIONS_PAGE::change_current()
   } else {
     ORQ_FONT font = ORQ_FONT::get_default_font(ORQ_FONT_RESOURCE(id));
     bool ok = false;
-    const QFont chosen = QFontDialog::getFont(&ok, font.get_font(), this, item->text(0));
+    const QFont chosen = QFontDialog::getFont(&ok, font.get_font(), this, item->text(0),
+                                             QFontDialog::DontUseNativeDialog);
     if (!ok)
       return;
     font.set_font(font.get_text_color(), font.get_background_color(), chosen.family(),

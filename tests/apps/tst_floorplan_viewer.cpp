@@ -85,6 +85,40 @@ private slots:
     QVERIFY(QImage(a) != QImage(c));
   }
 
+  void theme_overrides_come_back_after_a_restart_data()
+  {
+    QTest::addColumn<QByteArray>("colors");
+    QTest::addColumn<QString>("corner");
+    QTest::newRow("no overrides") << QByteArray() << "#1e2430";
+    QTest::newRow("background override") << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n")
+                                         << "#ff0000";
+    QTest::newRow("older version ignored") << QByteArray("Color_version=10\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n")
+                                           << "#1e2430";
+    QTest::newRow("malformed value ignored") << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff00\n")
+                                             << "#1e2430";
+  }
+
+  void theme_overrides_come_back_after_a_restart()
+  {
+    QFETCH(QByteArray, colors);
+    QFETCH(QString, corner);
+    QTemporaryDir home;
+    const QString settings_file = home.filePath(QStringLiteral(".config/Vantor/vantor_settings.ini"));
+    QDir().mkpath(QFileInfo(settings_file).absolutePath());
+    QFile file(settings_file);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[Theme]\n");
+    for (const QByteArray& line : colors.split('\n'))
+      if (!line.isEmpty())
+        file.write("Colors\\" + line + '\n');
+    file.close();
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}), 0);
+    const QImage image(png);
+    // Just inside the drawing, left of the die, below the menu bar.
+    QCOMPARE(QColor(image.pixel(4, image.height() / 2)).name(), corner);
+  }
+
   void unwritable_screenshot_fails_with_a_message()
   {
     QTemporaryDir home;

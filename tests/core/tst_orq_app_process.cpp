@@ -225,6 +225,12 @@ private slots:
                        QStringLiteral("Error connecting SIGNAL QObject::no_such_signal(int) to SLOT QObject::1deleteLater()"),
                        QStringLiteral("\tSIGNAL signature is invalid and maps to QObject::no_such_signal(int)"),
                        QStringLiteral("\tConnect location: tool_window.cpp: 77")};
+    QTest::newRow("theme before the application exists")
+        << "theme-before-app" << QStringList{QStringLiteral("(orq_theme.cpp:"), QStringLiteral("):\ngdi_mgr != NULL")};
+    QTest::newRow("theme after the application ended")
+        << "theme-after-app"
+        << QStringList{QStringLiteral("(orq_gdi_manager.cpp:"),
+                       QStringLiteral("):\n!ORQ_GDI_MANAGER::m_instance_has_been_deleted")};
     QTest::newRow("fatal Qt message") << "qt-fatal"
                                       << QStringList{QStringLiteral("Internal error in module ORQ (orq_message_handler.cpp:"),
                                                      QStringLiteral("the display connection is gone")};

@@ -7,6 +7,8 @@
 //   orq_test_app qt-fatal           qFatal under the full message handler
 //   orq_test_app message-window     Qt messages mirrored into the message window
 //   orq_test_app start-up           full start-up and shutdown, print the settings problem
+//   orq_test_app theme-before-app   a theme colour asked for before the application exists
+//   orq_test_app theme-after-app    a theme colour asked for after the application ended
 #include <orq.h>
 
 #include <gen_internal_error.h>
@@ -99,6 +101,11 @@ int run(ORQ_APP& app, const QStringList& args)
     std::printf("text=%s\n", qPrintable(dialog->findChild<QPlainTextEdit*>()->toPlainText()));
     return 0;
   }
+  if (mode == QLatin1String("theme-after-app")) {
+    std::printf("during=%s\n", qPrintable(ORQ_COLOR(ORQ_RED_COLOR).get_color().name()));
+    std::fflush(stdout);
+    return 0;
+  }
   if (mode == QLatin1String("start-up")) {
     gen_settings().set_value(QStringLiteral("Test"), QStringLiteral("started"), true);
     const bool saved = gen_settings().sync();
@@ -112,6 +119,11 @@ int run(ORQ_APP& app, const QStringList& args)
 
 int main(int argc, char** argv)
 {
+  const QByteArray mode = argc > 1 ? QByteArray(argv[1]) : QByteArray();
+  if (mode == "theme-before-app") {
+    std::printf("%s\n", qPrintable(ORQ_COLOR(ORQ_RED_COLOR).get_color().name()));
+    return 0;
+  }
   // The processor tree must be in place before init_instance reads it.
   std::unique_ptr<GEN_MACHINE_INFO> machine;
   if (argc > 2 && std::strcmp(argv[1], "processors") == 0) {
@@ -130,5 +142,7 @@ int main(int argc, char** argv)
     app.exit_instance();
   }
   gen_set_machine_info(nullptr);
+  if (mode == "theme-after-app")
+    std::printf("%s\n", qPrintable(ORQ_COLOR(ORQ_RED_COLOR).get_color().name()));
   return rc;
 }

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QtTest>
 
+#include <functional>
+
 // Gives the process its own temporary HOME, XDG_CONFIG_HOME, working
 // directory and VANTOR_INI, and clears the VANTOR_ diagnostics switches, so
 // that no test reads or writes a developer's own settings.
@@ -15,6 +17,10 @@ QString orq_test_home();
 // announce with QTest::ignoreMessage fails the running test.
 void orq_test_strict_messages();
 bool orq_test_unexpected_message_from_thread();
+
+// Runs body with an internal-error handler that unwinds instead of aborting;
+// returns the failed condition's text, or a null string when none was reported.
+QString orq_test_internal_error(const std::function<void()>& body);
 
 // The helper executable built beside the tests, and an environment for it
 // with a fresh home inside dir.
