@@ -17,15 +17,17 @@ ORQ_COLOR colour_of(ORQ_COLOR_RESOURCE color)
 }
 }  // namespace
 
+// A font that follows its resource needs no record of its own: it is made
+// when the font first becomes literal, so wrappers made in paint code stay
+// cheap.
 ORQ_FONT::ORQ_FONT(ORQ_FONT_RESOURCE font)
-    : m_font(std::make_unique<ORQ_FONT_RECORD>())
 {
   set_font(font);
 }
 
 ORQ_FONT::ORQ_FONT(const ORQ_FONT& other)
     : m_font_resource(other.m_font_resource)
-    , m_font(std::make_unique<ORQ_FONT_RECORD>(*other.m_font))
+    , m_font(other.m_font ? std::make_unique<ORQ_FONT_RECORD>(*other.m_font) : nullptr)
 {
 }
 
@@ -33,8 +35,10 @@ ORQ_FONT::~ORQ_FONT() = default;
 
 ORQ_FONT& ORQ_FONT::operator=(const ORQ_FONT& other)
 {
-  m_font_resource = other.m_font_resource;
-  *m_font = *other.m_font;
+  if (this != &other) {
+    m_font_resource = other.m_font_resource;
+    m_font = other.m_font ? std::make_unique<ORQ_FONT_RECORD>(*other.m_font) : nullptr;
+  }
   return *this;
 }
 
@@ -63,6 +67,8 @@ QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
       || !orq_theme_color_exists(text_resource) || !orq_theme_color_exists(background_resource))
     ORQ_INTERNAL_ERROR("Error at ORQ_FONT::operator >>");
   m_font_resource = ORQ_FONT_RESOURCE(resource);
+  if (!m_font)
+    m_font = std::make_unique<ORQ_FONT_RECORD>();
   m_font->m_text_color = text_resource ? ORQ_COLOR(ORQ_COLOR_RESOURCE(text_resource)) : ORQ_COLOR(text);
   m_font->m_background_color =
       background_resource ? ORQ_COLOR(ORQ_COLOR_RESOURCE(background_resource)) : ORQ_COLOR(background);
@@ -72,10 +78,11 @@ QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
 
 QDataStream& ORQ_FONT::operator<<(QDataStream& stream) const
 {
+  const ORQ_FONT_RECORD record = current();
   stream << qint32(m_font_resource);
-  m_font->m_text_color << stream;
-  m_font->m_background_color << stream;
-  return stream << m_font->m_font;
+  stream << qint32(record.m_text_color.get_resource()) << record.m_text_color.get_color();
+  stream << qint32(record.m_background_color.get_resource()) << record.m_background_color.get_color();
+  return stream << record.m_font;
 }
 
 ORQ_FONT_RECORD ORQ_FONT::current() const
@@ -102,7 +109,7 @@ void ORQ_FONT::make_literal()
 {
   if (m_font_resource == ORQ_MIN_FONT)
     return;
-  *m_font = current();
+  m_font = std::make_unique<ORQ_FONT_RECORD>(current());
   m_font_resource = ORQ_MIN_FONT;
 }
 

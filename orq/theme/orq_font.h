@@ -61,5 +61,5 @@ private:
   void make_literal();
 
   ORQ_FONT_RESOURCE m_font_resource = ORQ_MIN_FONT;
-  std::unique_ptr<ORQ_FONT_RECORD> m_font;
+  std::unique_ptr<ORQ_FONT_RECORD> m_font;  // null while the font follows its resource
 };

@@ -47,6 +47,43 @@ bool parse_flag(const QString& token, int* value)
 }
 }  // namespace
 
+template <typename DATA>
+bool ORQ_GDI_MANAGER::ID_MAP<DATA>::insert(int id, const DATA& data)
+{
+  if (id < 0)
+    return false;
+  if (size_t(id) >= m_data.size()) {
+    m_data.resize(size_t(id) + 1);
+    m_present.resize(size_t(id) + 1, 0);
+  }
+  if (m_present[size_t(id)])
+    return false;
+  m_data[size_t(id)] = data;
+  m_present[size_t(id)] = 1;
+  return true;
+}
+
+template <typename DATA>
+DATA* ORQ_GDI_MANAGER::ID_MAP<DATA>::find(int id)
+{
+  return id >= 0 && size_t(id) < m_data.size() && m_present[size_t(id)] ? &m_data[size_t(id)] : nullptr;
+}
+
+template <typename DATA>
+const DATA* ORQ_GDI_MANAGER::ID_MAP<DATA>::find(int id) const
+{
+  return id >= 0 && size_t(id) < m_data.size() && m_present[size_t(id)] ? &m_data[size_t(id)] : nullptr;
+}
+
+template <typename DATA>
+template <typename F>
+void ORQ_GDI_MANAGER::ID_MAP<DATA>::for_each(F&& f) const
+{
+  for (size_t id = 0; id < m_data.size(); ++id)
+    if (m_present[id])
+      f(m_data[id]);
+}
+
 bool ORQ_GDI_MANAGER::m_instance_has_been_deleted = false;
 const QString ORQ_GDI_MANAGER::k_colors_key = QStringLiteral("Theme/Colors");
 const QString ORQ_GDI_MANAGER::k_pens_key = QStringLiteral("Theme/Pens");
@@ -85,9 +122,8 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     data.m_changeable = e.changeable != 0;
     data.m_color = data.m_default_color = QColor(QLatin1String(e.color));
     data.m_name = QLatin1String(e.name);
-    const bool inserted = !m_colors.contains(e.id);
+    const bool inserted = m_colors.insert(e.id, data);
     ORQ_REQUIRE(inserted);
-    m_colors.insert(e.id, data);
     m_color_names.insert(data.m_name, e.id);
   }
   for (int i = 0; i < orq_pen_table_size; ++i) {
@@ -95,20 +131,18 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     ORQ_PEN_DATA data;
     data.m_name = QLatin1String(e.name);
     data.m_color = data.m_default_color = e.color;
-    data.m_pen = QPen(QBrush(m_colors.value(e.color).m_color), e.width, e.style, e.cap, e.join);
+    data.m_pen = QPen(QBrush(m_colors.find(e.color)->m_color), e.width, e.style, e.cap, e.join);
     data.m_default_pen = data.m_pen;
-    const bool inserted = !m_pens.contains(e.id);
+    const bool inserted = m_pens.insert(e.id, data);
     ORQ_REQUIRE(inserted);
-    m_pens.insert(e.id, data);
   }
   for (int i = 0; i < orq_brush_table_size; ++i) {
     const ORQ_BRUSH_ENTRY& e = orq_brush_table[i];
     ORQ_BRUSH_DATA data;
     data.m_color = data.m_default_color = e.color;
-    data.m_brush = data.m_default_brush = QBrush(m_colors.value(e.color).m_color, e.style);
-    const bool inserted = !m_brushes.contains(e.id);
+    data.m_brush = data.m_default_brush = QBrush(m_colors.find(e.color)->m_color, e.style);
+    const bool inserted = m_brushes.insert(e.id, data);
     ORQ_REQUIRE(inserted);
-    m_brushes.insert(e.id, data);
   }
   const bool kerning = gen_config_vars().get_bool(QStringLiteral("orq_enable_kerning"), false);
   for (int i = 0; i < orq_font_table_size; ++i) {
@@ -127,9 +161,8 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     font.setStyleHint(QFont::StyleHint(e.style_hint));
     font.setKerning(kerning);
     data.m_font = data.m_default_font = font;
-    const bool inserted = !m_fonts.contains(e.id);
+    const bool inserted = m_fonts.insert(e.id, data);
     ORQ_REQUIRE(inserted);
-    m_fonts.insert(e.id, data);
   }
 
   for (const char* family : {"DejaVu Sans", "Arial", "Tahoma", "Microsoft Sans Serif", "MS Sans Serif"})
@@ -147,54 +180,58 @@ ORQ_GDI_MANAGER::~ORQ_GDI_MANAGER() = default;
 
 const ORQ_COLOR_DATA* ORQ_GDI_MANAGER::get_color_data(ORQ_COLOR_RESOURCE color) const
 {
-  const auto i = m_colors.constFind(color);
-  return i == m_colors.constEnd() ? nullptr : &i.value();
+  return m_colors.find(color);
 }
 
 const ORQ_PEN_DATA* ORQ_GDI_MANAGER::get_pen_data(ORQ_PEN_RESOURCE pen) const
 {
-  const auto i = m_pens.constFind(pen);
-  return i == m_pens.constEnd() ? nullptr : &i.value();
+  return m_pens.find(pen);
 }
 
 const ORQ_BRUSH_DATA* ORQ_GDI_MANAGER::get_brush_data(ORQ_BRUSH_RESOURCE brush) const
 {
-  const auto i = m_brushes.constFind(brush);
-  return i == m_brushes.constEnd() ? nullptr : &i.value();
+  return m_brushes.find(brush);
 }
 
 const ORQ_FONT_DATA* ORQ_GDI_MANAGER::get_font_data(ORQ_FONT_RESOURCE font) const
 {
-  const auto i = m_fonts.constFind(font);
-  return i == m_fonts.constEnd() ? nullptr : &i.value();
+  return m_fonts.find(font);
 }
 
 ORQ_COLOR_DATA& ORQ_GDI_MANAGER::color_data(ORQ_COLOR_RESOURCE color)
 {
-  const auto i = m_colors.find(color);
-  ORQ_REQUIRE(i != m_colors.end());
-  return i.value();
+  ORQ_COLOR_DATA* i = m_colors.find(color);
+  // Said as a map lookup: that is what the identifier was missing from.
+  if (!i)
+    ORQ_INTERNAL_ERROR("i != m_colors.end()");
+  return *i;
 }
 
 ORQ_PEN_DATA& ORQ_GDI_MANAGER::pen_data(ORQ_PEN_RESOURCE pen)
 {
-  const auto i = m_pens.find(pen);
-  ORQ_REQUIRE(i != m_pens.end());
-  return i.value();
+  ORQ_PEN_DATA* i = m_pens.find(pen);
+  // Said as a map lookup: that is what the identifier was missing from.
+  if (!i)
+    ORQ_INTERNAL_ERROR("i != m_pens.end()");
+  return *i;
 }
 
 ORQ_BRUSH_DATA& ORQ_GDI_MANAGER::brush_data(ORQ_BRUSH_RESOURCE brush)
 {
-  const auto i = m_brushes.find(brush);
-  ORQ_REQUIRE(i != m_brushes.end());
-  return i.value();
+  ORQ_BRUSH_DATA* i = m_brushes.find(brush);
+  // Said as a map lookup: that is what the identifier was missing from.
+  if (!i)
+    ORQ_INTERNAL_ERROR("i != m_brushes.end()");
+  return *i;
 }
 
 ORQ_FONT_DATA& ORQ_GDI_MANAGER::font_data(ORQ_FONT_RESOURCE font)
 {
-  const auto i = m_fonts.find(font);
-  ORQ_REQUIRE(i != m_fonts.end());
-  return i.value();
+  ORQ_FONT_DATA* i = m_fonts.find(font);
+  // Said as a map lookup: that is what the identifier was missing from.
+  if (!i)
+    ORQ_INTERNAL_ERROR("i != m_fonts.end()");
+  return *i;
 }
 
 ORQ_COLOR_RESOURCE ORQ_GDI_MANAGER::find_color(const QString& name) const
@@ -280,12 +317,16 @@ void ORQ_GDI_MANAGER::reset_fonts(const std::set<ORQ_FONT_RESOURCE>& font_set)
 
 void ORQ_GDI_MANAGER::refresh_pen_and_brush_colors()
 {
-  for (ORQ_PEN_DATA& pen : m_pens)
+  for (int i = 0; i < orq_pen_table_size; ++i) {
+    ORQ_PEN_DATA& pen = pen_data(orq_pen_table[i].id);
     if (pen.m_color != ORQ_MIN_COLOR)
       pen.m_pen.setColor(get_color(pen.m_color));
-  for (ORQ_BRUSH_DATA& brush : m_brushes)
+  }
+  for (int i = 0; i < orq_brush_table_size; ++i) {
+    ORQ_BRUSH_DATA& brush = brush_data(orq_brush_table[i].id);
     if (brush.m_color != ORQ_MIN_COLOR)
       brush.m_brush.setColor(get_color(brush.m_color));
+  }
 }
 
 void ORQ_GDI_MANAGER::set_change_non_windows_color(bool on)
@@ -313,7 +354,7 @@ void ORQ_GDI_MANAGER::load_colors()
   const QPalette palette = QGuiApplication::palette();
   static const QRegularExpression hex_colour(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
   for (int i = 0; i < orq_color_table_size; ++i) {
-    ORQ_COLOR_DATA& data = m_colors[orq_color_table[i].id];
+    ORQ_COLOR_DATA& data = color_data(orq_color_table[i].id);
     QColor override_colour;
     if (apply && !data.m_system && data.m_changeable) {
       const QString text = gen_settings().value(k_colors_key, data.m_name).toString();
@@ -366,7 +407,7 @@ void ORQ_GDI_MANAGER::load_pens()
 {
   const bool apply = overrides_apply(k_pens_key, QStringLiteral("Pen_version"));
   for (int i = 0; i < orq_pen_table_size; ++i) {
-    ORQ_PEN_DATA& data = m_pens[orq_pen_table[i].id];
+    ORQ_PEN_DATA& data = pen_data(orq_pen_table[i].id);
     data.m_color = data.m_default_color;
     data.m_pen = data.m_default_pen;
     if (!apply)
@@ -447,7 +488,7 @@ void ORQ_GDI_MANAGER::load_fonts()
 {
   const bool apply = overrides_apply(k_fonts_key, QStringLiteral("Font_version"));
   for (int i = 0; i < orq_font_table_size; ++i) {
-    ORQ_FONT_DATA& data = m_fonts[orq_font_table[i].id];
+    ORQ_FONT_DATA& data = font_data(orq_font_table[i].id);
     data.m_font = data.m_default_font;
     data.m_text_color = data.m_default_text_color;
     data.m_background_color = data.m_default_background_color;
@@ -461,23 +502,23 @@ void ORQ_GDI_MANAGER::save_colors()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_colors_key, QStringLiteral("Color_version"), k_version);
-  for (const ORQ_COLOR_DATA& data : qAsConst(m_colors)) {
+  m_colors.for_each([&settings](const ORQ_COLOR_DATA& data) {
     if (!data.m_changeable || data.m_system)
-      continue;
+      return;
     const bool changed =
         data.m_role != data.m_default_role || data.m_color != data.m_default_color;
     if (changed)
       settings.set_value(k_colors_key, data.m_name, data.m_color.name());
     else
       settings.remove(k_colors_key, data.m_name);
-  }
+  });
 }
 
 void ORQ_GDI_MANAGER::save_pens()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_pens_key, QStringLiteral("Pen_version"), k_version);
-  for (const ORQ_PEN_DATA& data : qAsConst(m_pens)) {
+  m_pens.for_each([&settings](const ORQ_PEN_DATA& data) {
     const bool changed = data.m_color != data.m_default_color || data.m_pen.style() != data.m_default_pen.style()
                          || data.m_pen.capStyle() != data.m_default_pen.capStyle()
                          || data.m_pen.joinStyle() != data.m_default_pen.joinStyle()
@@ -486,16 +527,16 @@ void ORQ_GDI_MANAGER::save_pens()
       settings.set_value(k_pens_key, data.m_name, format_pen(data));
     else
       settings.remove(k_pens_key, data.m_name);
-  }
+  });
 }
 
 void ORQ_GDI_MANAGER::save_fonts()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_fonts_key, QStringLiteral("Font_version"), k_version);
-  for (const ORQ_FONT_DATA& data : qAsConst(m_fonts)) {
+  m_fonts.for_each([&settings](const ORQ_FONT_DATA& data) {
     if (!data.m_changeable)
-      continue;
+      return;
     const bool changed = data.m_text_color != data.m_default_text_color
                          || data.m_background_color != data.m_default_background_color
                          || !same_font(data.m_font, data.m_default_font);
@@ -503,5 +544,5 @@ void ORQ_GDI_MANAGER::save_fonts()
       settings.set_value(k_fonts_key, data.m_name, format_font(data));
     else
       settings.remove(k_fonts_key, data.m_name);
-  }
+  });
 }

@@ -18,6 +18,7 @@
 #include <QString>
 
 #include <set>
+#include <vector>
 
 struct ORQ_COLOR_DATA {
   int m_system = 0;
@@ -121,10 +122,26 @@ private:
   ORQ_FONT_DATA& font_data(ORQ_FONT_RESOURCE font);
   bool overrides_apply(const QString& key, const QString& version_name) const;
 
-  QHash<int, ORQ_COLOR_DATA> m_colors;
-  QHash<int, ORQ_PEN_DATA> m_pens;
-  QHash<int, ORQ_BRUSH_DATA> m_brushes;
-  QHash<int, ORQ_FONT_DATA> m_fonts;
+  // Identifier-to-record maps. Identifiers are small and dense, so each map
+  // is a table indexed by identifier: a lookup in a paint loop is one load.
+  template <typename DATA>
+  class ID_MAP {
+  public:
+    bool insert(int id, const DATA& data);
+    DATA* find(int id);
+    const DATA* find(int id) const;
+    template <typename F>
+    void for_each(F&& f) const;
+
+  private:
+    std::vector<DATA> m_data;
+    std::vector<char> m_present;
+  };
+
+  ID_MAP<ORQ_COLOR_DATA> m_colors;
+  ID_MAP<ORQ_PEN_DATA> m_pens;
+  ID_MAP<ORQ_BRUSH_DATA> m_brushes;
+  ID_MAP<ORQ_FONT_DATA> m_fonts;
   QHash<QString, ORQ_COLOR_RESOURCE> m_color_names;
   bool m_change_non_windows_color = false;
 };
