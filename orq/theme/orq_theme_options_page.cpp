@@ -70,7 +70,6 @@ ORQ_THEME_OPTIONS_PAGE::ORQ_THEME_OPTIONS_PAGE(QWidget* parent)
   m_colors->setObjectName(QStringLiteral("orq_theme_color_list"));
   m_fonts->setObjectName(QStringLiteral("orq_theme_font_list"));
   m_filter->setPlaceholderText(QStringLiteral("Filter"));
-  m_filter->setClearButtonEnabled(true);
   m_tabs->addTab(m_colors, QStringLiteral("Colors"));
   m_tabs->addTab(m_fonts, QStringLiteral("Fonts"));
 

@@ -125,6 +125,10 @@ int orq_test_run_all(int argc, char** argv)
   for (const auto& make : orq_test_registry()) {
     std::unique_ptr<QObject> test = make();
     failed += QTest::qExec(test.get(), argc, argv) != 0 ? 1 : 0;
+    test.reset();
+    // Objects that asked to be deleted later (finished animations, closed
+    // dialogs) go now, before the next class and before the leak check.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
   return failed != 0 || orq_test_unexpected_message_from_thread() ? 1 : 0;
 }
