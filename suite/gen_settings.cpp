@@ -71,7 +71,7 @@ GEN_SETTINGS::GEN_SETTINGS(const QString& file_name)
 
 GEN_SETTINGS::~GEN_SETTINGS()
 {
-  if (m_settings)
+  if (m_settings && !m_read_only)
     m_settings->sync();
 }
 
@@ -89,12 +89,14 @@ bool GEN_SETTINGS::check_file()
   if (info.isDir()) {
     m_problem = QStringLiteral("settings file %1 is a directory; defaults are used and nothing is saved")
                     .arg(m_file_name);
+    m_read_only = true;
     return false;
   }
   QFile file(m_file_name);
   if (!file.open(QIODevice::ReadOnly)) {
-    m_problem = QStringLiteral("settings file %1 cannot be read (%2); defaults are used")
+    m_problem = QStringLiteral("settings file %1 cannot be read (%2); defaults are used and nothing is saved")
                     .arg(m_file_name, file.errorString());
+    m_read_only = true;
     return false;
   }
   // Settings files are small; a huge one is damaged, and is not read whole.
@@ -108,6 +110,7 @@ bool GEN_SETTINGS::check_file()
     m_problem = QStringLiteral("settings file %1 is damaged and could not be copied aside; it is "
                                "left untouched and nothing is saved")
                     .arg(m_file_name);
+    m_read_only = true;
     return false;
   }
   m_problem = QStringLiteral("settings file %1 is damaged; a copy was kept as %2 and the readable "
@@ -120,39 +123,64 @@ bool GEN_SETTINGS::check_file()
 QVariant GEN_SETTINGS::value(const QString& key, const QString& name, const QVariant& default_value) const
 {
   std::lock_guard<std::mutex> lock(m_mutex);
-  return m_settings->value(key + QLatin1Char('/') + name, default_value);
+  const QString path = key + QLatin1Char('/') + name;
+  if (m_read_only && m_session.contains(path)) {
+    const QVariant value = m_session.value(path);
+    return value.isNull() ? default_value : value;
+  }
+  return m_settings->value(path, default_value);
 }
 
 bool GEN_SETTINGS::contains(const QString& key, const QString& name) const
 {
   std::lock_guard<std::mutex> lock(m_mutex);
-  return m_settings->contains(key + QLatin1Char('/') + name);
+  const QString path = key + QLatin1Char('/') + name;
+  if (m_read_only && m_session.contains(path))
+    return !m_session.value(path).isNull();
+  return m_settings->contains(path);
 }
 
 void GEN_SETTINGS::set_value(const QString& key, const QString& name, const QVariant& value)
 {
   std::lock_guard<std::mutex> lock(m_mutex);
-  m_settings->setValue(key + QLatin1Char('/') + name, value);
+  if (m_read_only)
+    m_session.insert(key + QLatin1Char('/') + name, value.isNull() ? QVariant(QString()) : value);
+  else
+    m_settings->setValue(key + QLatin1Char('/') + name, value);
 }
 
 void GEN_SETTINGS::remove(const QString& key, const QString& name)
 {
   std::lock_guard<std::mutex> lock(m_mutex);
-  m_settings->remove(key + QLatin1Char('/') + name);
+  if (m_read_only)
+    m_session.insert(key + QLatin1Char('/') + name, QVariant());
+  else
+    m_settings->remove(key + QLatin1Char('/') + name);
 }
 
 QStringList GEN_SETTINGS::names(const QString& key) const
 {
   std::lock_guard<std::mutex> lock(m_mutex);
   m_settings->beginGroup(key);
-  const QStringList keys = m_settings->childKeys();
+  QStringList keys = m_settings->childKeys();
   m_settings->endGroup();
+  const QString prefix = key + QLatin1Char('/');
+  for (auto it = m_session.cbegin(); it != m_session.cend(); ++it) {
+    if (!it.key().startsWith(prefix) || it.key().indexOf(QLatin1Char('/'), prefix.size()) >= 0)
+      continue;
+    const QString name = it.key().mid(prefix.size());
+    keys.removeAll(name);
+    if (!it.value().isNull())
+      keys.append(name);
+  }
   return keys;
 }
 
 bool GEN_SETTINGS::sync()
 {
   std::lock_guard<std::mutex> lock(m_mutex);
+  if (m_read_only)
+    return false;
   QDir().mkpath(QFileInfo(m_file_name).absolutePath());
   m_settings->sync();
   return m_settings->status() == QSettings::NoError;

@@ -55,6 +55,10 @@ private:
   QString m_file_name;
   QString m_problem;
   std::unique_ptr<QSettings> m_settings;
+  // A file that cannot be read safely is never written: changes of this
+  // session are kept here instead (a null value marks a removed name).
+  bool m_read_only = false;
+  QVariantMap m_session;
 };
 
 // The process's settings registry; null restores the default one.

@@ -127,6 +127,12 @@ private slots:
     QVERIFY(settings.problem().contains(QStringLiteral("is a directory")));
     QCOMPARE(settings.value(QStringLiteral("Viewer"), QStringLiteral("geometry"), 5).toInt(), 5);
     settings.set_value(QStringLiteral("Viewer"), QStringLiteral("geometry"), 6);
+    settings.set_value(QStringLiteral("Viewer"), QStringLiteral("state"), 7);
+    settings.remove(QStringLiteral("Viewer"), QStringLiteral("state"));
+    // The session keeps its changes; the disk is never touched.
+    QCOMPARE(settings.value(QStringLiteral("Viewer"), QStringLiteral("geometry"), 5).toInt(), 6);
+    QVERIFY(!settings.contains(QStringLiteral("Viewer"), QStringLiteral("state")));
+    QCOMPARE(settings.names(QStringLiteral("Viewer")), QStringList{"geometry"});
     QVERIFY(!settings.sync());
     QVERIFY(QFileInfo(path).isDir());
   }
