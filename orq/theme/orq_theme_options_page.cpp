@@ -170,13 +170,22 @@ QTreeWidget* ORQ_THEME_OPTIONS_PAGE::current_list() const
   return m_tabs->currentWidget() == m_fonts ? m_fonts : m_colors;
 }
 
+QTreeWidgetItem* ORQ_THEME_OPTIONS_PAGE::current_item(QTreeWidget** list, int* id) const
+{
+  *list = current_list();
+  QTreeWidgetItem* item = (*list)->currentItem();
+  if (item)
+    *id = item->data(0, k_resource_role).toInt();
+  return item;
+}
+
 void ORQ_THEME_OPTIONS_PAGE::change_current()
 {
-  QTreeWidget* list = current_list();
-  QTreeWidgetItem* item = list->currentItem();
+  QTreeWidget* list = nullptr;
+  int id = 0;
+  QTreeWidgetItem* item = current_item(&list, &id);
   if (!item)
     return;
-  const int id = item->data(0, k_resource_role).toInt();
   if (list == m_colors) {
     const QColor before = ORQ_COLOR::get_default_color(ORQ_COLOR_RESOURCE(id));
     const QColor chosen = QColorDialog::getColor(before, this, item->text(0), QColorDialog::DontUseNativeDialog);
@@ -203,11 +212,11 @@ void ORQ_THEME_OPTIONS_PAGE::change_current()
 
 void ORQ_THEME_OPTIONS_PAGE::reset_current()
 {
-  QTreeWidget* list = current_list();
-  QTreeWidgetItem* item = list->currentItem();
+  QTreeWidget* list = nullptr;
+  int id = 0;
+  QTreeWidgetItem* item = current_item(&list, &id);
   if (!item)
     return;
-  const int id = item->data(0, k_resource_role).toInt();
   if (list == m_colors) {
     ORQ_COLOR::reset_colors({ORQ_COLOR_RESOURCE(id)});
     ORQ_COLOR::refresh_pen_and_brush_colors();

@@ -49,6 +49,8 @@ private:
   void update_color_item(QTreeWidgetItem* item);
   void update_font_item(QTreeWidgetItem* item);
   QTreeWidget* current_list() const;
+  // The current row of the visible list, with its list and resource identifier.
+  QTreeWidgetItem* current_item(QTreeWidget** list, int* id) const;
 
   QTabWidget* m_tabs;
   QTreeWidget* m_colors;
