@@ -15,6 +15,9 @@
 
 enum class GEN_MESSAGE_KIND { INFO, WARNING, ERROR };
 
+// What a message box asks of the user; it picks the box's icon.
+enum class GEN_PROMPT_TYPE { INFORMATION, WARNING, ERROR, QUESTION };
+
 struct GEN_MESSAGE {
   int number = 0;  // 0 for a plain warning that is not in the catalogue
   GEN_MESSAGE_KIND kind = GEN_MESSAGE_KIND::INFO;

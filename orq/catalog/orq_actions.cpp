@@ -1,0 +1,104 @@
+#include "orq_actions.h"
+
+#include "orq_catalog_tables_p.h"
+#include "orq_icons.h"
+#include "orq_require_p.h"
+#include "orq_tcl_action.h"
+
+#include <QAction>
+#include <QHash>
+
+namespace {
+
+const ORQ_ACTION_ROW& row_of(ORQ_ACTION_ENUM action)
+{
+  if (action < 1 || action > ORQ_ACTION_COUNT)
+    ORQ_INTERNAL_ERROR("The calling function has passed an illegal ORQ_ACTION_ENUM");
+  return orq_action_table[action];
+}
+
+QString without_symbol(const char* menu_text)
+{
+  QString text = QString::fromUtf8(menu_text);
+  text.replace(QLatin1String(" && "), QLatin1String(" AND "));
+  text.remove(QLatin1Char('&'));
+  text.remove(QLatin1String("..."));
+  return text;
+}
+
+// The catalogue spells some keys out the way menus print them ("Shift+Right
+// Arrow"); QKeySequence knows those keys only by their short names.
+QKeySequence parse_custom_shortcut(const char* text)
+{
+  QString portable = QString::fromUtf8(text);
+  for (const char* key : {"Left", "Right", "Up", "Down"})
+    portable.replace(QLatin1String(key) + QLatin1String(" Arrow"), QLatin1String(key));
+  return QKeySequence(portable, QKeySequence::PortableText);
+}
+
+}  // namespace
+
+QAction* orq_create_action(ORQ_ACTION_ENUM action, QObject* parent)
+{
+  const bool valid = action >= 1 && action <= ORQ_ACTION_COUNT;
+  const ORQ_ACTION_ROW* row = valid ? &orq_action_table[action] : nullptr;
+  QAction* result = nullptr;
+  if (row && row->tcl_function) {
+    auto* tcl_action = new ORQ_TCL_ACTION(parent);
+    tcl_action->set_tcl_function(row->tcl_function);
+    result = tcl_action;
+  } else {
+    result = new QAction(parent);
+  }
+  if (!row)
+    return result;
+
+  result->setText(QString::fromUtf8(row->menu_text));
+  result->setStatusTip(QString::fromUtf8(row->statustip));
+  if (row->icon)
+    result->setIcon(orq_get_icon(row->icon));
+  if (row->standard_key != QKeySequence::UnknownKey)
+    result->setShortcuts(row->standard_key);
+  else if (row->custom_shortcut)
+    result->setShortcut(parse_custom_shortcut(row->custom_shortcut));
+  if (!result->shortcut().isEmpty())
+    result->setToolTip(without_symbol(row->menu_text) + QLatin1String(" - ") +
+                       result->shortcut().toString(QKeySequence::PortableText));
+  if (row->tooltip)
+    result->setToolTip(QString::fromUtf8(row->tooltip));
+  if (action == ORQ_ZOOM_TOOL_ACTION)
+    result->setCheckable(true);
+  else if (action == ORQ_ZOOM_SELECTION_ACTION)
+    result->setCheckable(false);
+  return result;
+}
+
+const char* orq_get_menu_text(ORQ_ACTION_ENUM action) { return row_of(action).menu_text; }
+const char* orq_get_statustip(ORQ_ACTION_ENUM action) { return row_of(action).statustip; }
+const char* orq_get_tooltip(ORQ_ACTION_ENUM action) { return row_of(action).tooltip; }
+const char* orq_get_custom_shortcut(ORQ_ACTION_ENUM action) { return row_of(action).custom_shortcut; }
+const char* orq_get_tcl_function(ORQ_ACTION_ENUM action) { return row_of(action).tcl_function; }
+
+QString orq_get_menu_text_without_symbol(ORQ_ACTION_ENUM action)
+{
+  return without_symbol(row_of(action).menu_text);
+}
+
+QString orq_get_action_enum_string(ORQ_ACTION_ENUM action)
+{
+  if (action < 1 || action > ORQ_ACTION_COUNT)
+    return QString();
+  return QString::fromLatin1(orq_action_table[action].name);
+}
+
+ORQ_ACTION_ENUM orq_get_action_enum(const QString& name)
+{
+  static const QHash<QString, int> values = [] {
+    QHash<QString, int> map;
+    map.reserve(ORQ_ACTION_COUNT);
+    for (int value = 1; value <= ORQ_ACTION_COUNT; ++value)
+      map.insert(QString::fromLatin1(orq_action_table[value].name), value);
+    return map;
+  }();
+  return static_cast<ORQ_ACTION_ENUM>(values.value(name, 0));
+}
