@@ -56,8 +56,10 @@ void FLOORPLAN_WIDGET::paintEvent(QPaintEvent*)
 
   painter.setPen(Qt::NoPen);
   painter.setBrush(ORQ_COLOR(ORQ_FPV_PAD_COLOR).get_color());
-  for (const QRect& pad : m_plan.io_pads)
-    painter.drawRect(t.mapRect(QRectF(pad)));
+  if (m_show_pads) {
+    for (const QRect& pad : m_plan.io_pads)
+      painter.drawRect(t.mapRect(QRectF(pad)));
+  }
 
   const ORQ_FONT name_font(ORQ_FPV_BLOCK_NAME_FONT);
   const ORQ_FONT cell_font(ORQ_FPV_CELL_TYPE_FONT);
@@ -70,6 +72,8 @@ void FLOORPLAN_WIDGET::paintEvent(QPaintEvent*)
     fill.setAlpha(170);
     painter.setBrush(fill);
     painter.drawRect(r);
+    if (!m_show_block_names)
+      continue;
     const QRectF text_rect = r.adjusted(4, 2, -4, -2);
     painter.setPen(name_font.get_text_color().get_color());
     painter.setFont(name_font.get_font());
@@ -79,6 +83,18 @@ void FLOORPLAN_WIDGET::paintEvent(QPaintEvent*)
     painter.drawText(text_rect.adjusted(0, QFontMetricsF(name_font.get_font()).height(), 0, 0),
                      Qt::AlignLeft | Qt::AlignTop, block.cell);
   }
+}
+
+void FLOORPLAN_WIDGET::set_show_pads(bool show)
+{
+  m_show_pads = show;
+  update();
+}
+
+void FLOORPLAN_WIDGET::set_show_block_names(bool show)
+{
+  m_show_block_names = show;
+  update();
 }
 
 void FLOORPLAN_WIDGET::mouseMoveEvent(QMouseEvent* event)

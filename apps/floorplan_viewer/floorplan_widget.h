@@ -10,6 +10,11 @@ public:
   explicit FLOORPLAN_WIDGET(QWidget* parent = nullptr);
   void set_floorplan(const FLOORPLAN& plan);
   QSize sizeHint() const override;
+  const FLOORPLAN& floorplan() const { return m_plan; }
+
+public slots:
+  void set_show_pads(bool show);
+  void set_show_block_names(bool show);
 
 signals:
   void block_hovered(const QString& text);
@@ -22,4 +27,6 @@ private:
   QTransform logical_to_widget() const;
 
   FLOORPLAN m_plan;
+  bool m_show_pads = true;
+  bool m_show_block_names = true;
 };

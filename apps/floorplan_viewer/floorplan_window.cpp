@@ -4,12 +4,17 @@
 
 #include <orq.h>
 
+#include <gen_help.h>
 #include <gen_machine_info.h>
 #include <gen_settings.h>
 #include <gen_tcl.h>
 #include <gen_undo_redo_mgr.h>
 
 #include <QAction>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QToolBar>
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 #include <QCloseEvent>
@@ -19,8 +24,22 @@
 #include <QStatusBar>
 #include <QUndoCommand>
 
+#include <tcl.h>
+
 namespace {
 const QString k_settings_key = QStringLiteral("FloorplanViewer");
+
+// ::fpv::status text: shows text in the status bar, so that Tcl commands of
+// the suite can talk back to the viewer.
+int status_command(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
+{
+  if (objc != 2) {
+    Tcl_WrongNumArgs(interp, 1, objv, "text");
+    return TCL_ERROR;
+  }
+  static_cast<QLabel*>(data)->setText(QString::fromUtf8(Tcl_GetString(objv[1])));
+  return TCL_OK;
+}
 
 // Re-generating the floor plan is undoable, so the undo manager of the
 // application object has something real to do.
@@ -65,12 +84,31 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count)
           .arg(tcl_version),
       this));
   m_hover->setText(QStringLiteral("Ready"));
+  register_tcl_commands();
   orq_safe_connect(m_view, SIGNAL(block_hovered(QString)), m_hover, SLOT(setText(QString)),
                    Qt::AutoConnection, __FILE__, __LINE__);
   restore_geometry();
 }
 
-FLOORPLAN_WINDOW::~FLOORPLAN_WINDOW() = default;
+FLOORPLAN_WINDOW::~FLOORPLAN_WINDOW()
+{
+  Tcl_DeleteCommand(gen_tcl().interp(), "::fpv::status");
+}
+
+void FLOORPLAN_WINDOW::register_tcl_commands()
+{
+  // The suite's partition planner is not part of this sample; its start
+  // command here reports what it would plan, through the status bar.
+  Tcl_CreateObjCommand(gen_tcl().interp(), "::fpv::status", status_command, m_hover, nullptr);
+  gen_tcl().set_var(QStringLiteral("::fpv::block_count"), QString::number(m_block_count));
+  gen_tcl().eval(QStringLiteral(
+      "namespace eval ::vantor::partition_planner {\n"
+      "  proc start {} {\n"
+      "    set n $::fpv::block_count\n"
+      "    ::fpv::status \"Partition planner: $n blocks in [expr {($n + 3) / 4}] partitions\"\n"
+      "  }\n"
+      "}"));
+}
 
 unsigned FLOORPLAN_WINDOW::seed() const
 {
@@ -92,35 +130,95 @@ void FLOORPLAN_WINDOW::regenerate()
     set_seed(m_seed + 1);
 }
 
+QAction* FLOORPLAN_WINDOW::add_standard_action(QMenu* menu, ORQ_ACTION_ENUM id)
+{
+  QAction* action = orq_create_action(id, this);
+  action->setObjectName(orq_get_action_enum_string(id));
+  menu->addAction(action);
+  return action;
+}
+
 void FLOORPLAN_WINDOW::build_menus()
 {
+  // Every command comes from the standard catalogue, so its words, icon and
+  // shortcut are those of every other tool of the suite.
   QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-  QAction* quit = file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
-  quit->setShortcut(QKeySequence::Quit);
+  QAction* export_image = add_standard_action(file, ORQ_EXPORT_IMAGE_ACTION);
+  connect(export_image, &QAction::triggered, this, [this] {
+    const QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Export Image"), QString(),
+                                                      QStringLiteral("PNG images (*.png)"));
+    if (!name.isEmpty() && !m_view->grab().save(name, "PNG"))
+      orq_message_box(QStringLiteral("Cannot write %1").arg(name), GEN_PROMPT_TYPE::ERROR, this);
+  });
+  file->addSeparator();
+  connect(add_standard_action(file, ORQ_EXIT_ACTION), &QAction::triggered, this, &QWidget::close);
 
   QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
   if (ORQ_APP* app = orq_get_app(); app && app->get_undo_redo_mgr()) {
-    QAction* undo = app->get_undo_redo_mgr()->create_undo_action(this, QStringLiteral("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* redo = app->get_undo_redo_mgr()->create_redo_action(this, QStringLiteral("&Redo"));
-    redo->setShortcut(QKeySequence::Redo);
-    edit->addAction(undo);
-    edit->addAction(redo);
+    // The undo stack's actions keep their own enabled state; they take the
+    // catalogue's looks.
+    for (ORQ_ACTION_ENUM id : {ORQ_UNDO_ACTION, ORQ_REDO_ACTION}) {
+      QAction* action = id == ORQ_UNDO_ACTION
+                            ? app->get_undo_redo_mgr()->create_undo_action(this, QString::fromUtf8(orq_get_menu_text(id)))
+                            : app->get_undo_redo_mgr()->create_redo_action(this, QString::fromUtf8(orq_get_menu_text(id)));
+      QAction* model = orq_create_action(id, action);
+      action->setObjectName(orq_get_action_enum_string(id));
+      action->setIcon(model->icon());
+      action->setShortcuts(model->shortcuts());
+      action->setStatusTip(model->statusTip());
+      action->setToolTip(model->toolTip());
+      edit->addAction(action);
+      m_undo_redo.append(action);
+    }
   }
+  edit->addSeparator();
+  QAction* copy = add_standard_action(edit, ORQ_COPY_ACTION);
+  copy->setStatusTip(QStringLiteral("Copies a picture of the floor plan to the Clipboard"));
+  connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setImage(m_view->grab().toImage()); });
 
   QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
-  QAction* regenerate = view->addAction(QStringLiteral("&Regenerate Floor Plan"), this,
-                                        &FLOORPLAN_WINDOW::regenerate);
+  QAction* regenerate = add_standard_action(view, ORQ_REGENERATE_FLOORPLAN_ACTION);
   regenerate->setShortcut(QKeySequence(QStringLiteral("Ctrl+R")));
+  connect(regenerate, &QAction::triggered, this, &FLOORPLAN_WINDOW::regenerate);
+  view->addSeparator();
+  for (ORQ_ACTION_ENUM id : {ORQ_SHOW_PADS_ACTION, ORQ_SHOW_BLOCK_NAMES_ACTION}) {
+    QAction* toggle = add_standard_action(view, id);
+    toggle->setCheckable(true);
+    toggle->setChecked(true);
+    connect(toggle, &QAction::toggled, m_view,
+            id == ORQ_SHOW_PADS_ACTION ? &FLOORPLAN_WIDGET::set_show_pads : &FLOORPLAN_WIDGET::set_show_block_names);
+  }
 
   QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
-  tools->addAction(QStringLiteral("&Options..."), this, &FLOORPLAN_WINDOW::open_options);
+  QAction* planner = add_standard_action(tools, ORQ_START_PARTITION_PLANNER_ACTION);
+  QAction* options = add_standard_action(tools, ORQ_OPTIONS_ACTION);
+  connect(options, &QAction::triggered, this, &FLOORPLAN_WINDOW::open_options);
 
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-  help->addAction(QStringLiteral("&About Floor Plan Viewer"), this, [this] {
-    QMessageBox::about(this, QStringLiteral("About Floor Plan Viewer"),
-                       QStringLiteral("Floor Plan Viewer\nThe sample tool of the ORQ framework."));
+  QAction* topics = add_standard_action(help, ORQ_VANTOR_HELP_ACTION);
+  connect(topics, &QAction::triggered, this, [this] { gen_help().show_help(this, QStringLiteral("floorplan_viewer")); });
+  help->addSeparator();
+  QAction* about = add_standard_action(help, ORQ_ABOUT_VANTOR_ACTION);
+  connect(about, &QAction::triggered, this, [this] {
+    QMessageBox box(this);
+    box.setWindowTitle(QStringLiteral("About Vantor"));
+    box.setIconPixmap(orq_get_pixmap(ORQ_FPV_SPLASH_SCREEN_PIXMAP).scaledToWidth(320, Qt::SmoothTransformation));
+    box.setText(QStringLiteral("Floor Plan Viewer\nThe sample tool of the ORQ framework."));
+    box.exec();
   });
+
+  QToolBar* bar = addToolBar(QStringLiteral("Standard"));
+  bar->setObjectName(QStringLiteral("standard_tool_bar"));
+  bar->addAction(export_image);
+  bar->addSeparator();
+  bar->addActions(m_undo_redo);
+  bar->addAction(copy);
+  bar->addSeparator();
+  bar->addAction(regenerate);
+  bar->addAction(planner);
+  bar->addSeparator();
+  bar->addAction(options);
+  bar->addAction(topics);
 }
 
 ORQ_DIALOG* FLOORPLAN_WINDOW::make_options_dialog()

@@ -1,11 +1,16 @@
 #pragma once
 // The viewer's main window: the floor plan in the middle, menus, a status bar
 // that tells what the process found at start-up, and undoable re-generation.
+#include "orq_action_enum.h"
 #include "orq_main_window.h"
+
+#include <QList>
 
 class FLOORPLAN_WIDGET;
 class ORQ_DIALOG;
+class QAction;
 class QLabel;
+class QMenu;
 
 class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
   Q_OBJECT
@@ -28,10 +33,13 @@ protected:
 
 private:
   void build_menus();
+  void register_tcl_commands();
+  QAction* add_standard_action(QMenu* menu, ORQ_ACTION_ENUM id);
   void restore_geometry();
 
   FLOORPLAN_WIDGET* m_view;
   QLabel* m_hover;
+  QList<QAction*> m_undo_redo;
   unsigned m_seed;
   int m_block_count;
 };

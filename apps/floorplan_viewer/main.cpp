@@ -1,6 +1,8 @@
 // The floor-plan viewer: the sample tool of the framework. Run it with
-// --screenshot FILE to render the main window to a PNG and exit.
+// --screenshot FILE to render the main window to a PNG and exit, or with
+// --icons FILE to render a sheet of every icon of the catalogue.
 #include "floorplan_window.h"
+#include "icon_sheet.h"
 
 #include <orq.h>
 
@@ -32,8 +34,19 @@ int main(int argc, char** argv)
   const QCommandLineOption options_shot(QStringLiteral("options-screenshot"),
                                         QStringLiteral("Render the Options dialog to a PNG file and exit."),
                                         QStringLiteral("file"));
-  parser.addOptions({screenshot, seed, blocks, options_shot});
+  const QCommandLineOption icons(QStringLiteral("icons"),
+                                 QStringLiteral("Render every icon of the catalogue to a PNG sheet and exit."),
+                                 QStringLiteral("file"));
+  parser.addOptions({screenshot, seed, blocks, options_shot, icons});
   parser.process(app);
+
+  if (parser.isSet(icons)) {
+    const bool written = make_icon_sheet().save(parser.value(icons), "PNG");
+    if (written)
+      std::printf("floorplan_viewer: icon sheet written to %s\n", qPrintable(parser.value(icons)));
+    app.exit_instance();
+    return written ? 0 : 1;
+  }
 
   FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24));
   window.show();

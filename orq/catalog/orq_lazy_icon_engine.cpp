@@ -62,7 +62,9 @@ void ORQ_LAZY_ICON_ENGINE::virtual_hook(int id, void* data)
 {
   switch (id) {
   case QIconEngine::IsNullHook:
-    *static_cast<bool*>(data) = m_files.isEmpty() && !m_icon;
+    // Never null before the first use: QIcon::addFile drops an engine that
+    // says it is null and makes the parsing engine in its place.
+    *static_cast<bool*>(data) = m_icon && m_icon->isNull();
     return;
   case QIconEngine::ScaledPixmapHook: {
     // High-DPI painting asks for a scaled pixmap; the loaded icon knows how.

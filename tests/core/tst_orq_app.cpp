@@ -353,20 +353,29 @@ private slots:
     QCOMPARE(help.contexts.value(0), edit);
   }
 
-  void house_fonts_that_exist_are_registered_and_bad_ones_skipped()
+  void house_fonts_give_the_corvan_clear_family_in_four_styles()
   {
-    // This binary's resources hold one real font under a house font name and
-    // one file that is no font at all; the other six are absent.
-    auto count_fonts = [] {
-      int n = 0;
-      for (int id = 0; id < 64; ++id)
-        n += QFontDatabase::applicationFontFamilies(id).isEmpty() ? 0 : 1;
-      return n;
+    // ORQ_APP's constructor has loaded them once already; loading again
+    // registers all eight files again, each under the house family.
+    auto families = [] {
+      QStringList all;
+      for (int id = 0; id < 256; ++id)
+        all += QFontDatabase::applicationFontFamilies(id);
+      return all;
     };
-    const int before = count_fonts();
+    const int before = families().size();
     orq_load_fonts_from_resources();
-    QCOMPARE(count_fonts(), before + 1);
-    QCOMPARE(orq_house_font_files().size(), 8);
+    const QStringList after = families();
+    QCOMPARE(after.size(), before + 8);
+    for (const QString& family : after.mid(before))
+      QCOMPARE(family, QStringLiteral("Corvan Clear"));
+    QFontDatabase database;
+    const QStringList styles = database.styles(QStringLiteral("Corvan Clear"));
+    for (const char* style : {"Regular", "Bold", "Italic", "Bold Italic"})
+      QVERIFY2(styles.contains(QLatin1String(style)), qPrintable(styles.join(QLatin1Char(','))));
+    QFont font(QStringLiteral("Corvan Clear"), 12);
+    QCOMPARE(QFontInfo(font).family(), QStringLiteral("Corvan Clear"));
+    QVERIFY(QFontMetrics(font).horizontalAdvance(QStringLiteral("Floorplan")) > 0);
   }
 
   void tcl_work_from_worker_threads_runs_on_the_gui_thread_within_the_flush_period()

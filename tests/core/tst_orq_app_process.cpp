@@ -231,6 +231,10 @@ private slots:
         << "theme-after-app"
         << QStringList{QStringLiteral("(orq_gdi_manager.cpp:"),
                        QStringLiteral("):\n!ORQ_GDI_MANAGER::m_instance_has_been_deleted")};
+    QTest::newRow("action beyond the catalogue")
+        << "illegal-action"
+        << QStringList{QStringLiteral("Internal error in module ORQ (orq_actions.cpp:"),
+                       QStringLiteral("):\nThe calling function has passed an illegal ORQ_ACTION_ENUM")};
     QTest::newRow("fatal Qt message") << "qt-fatal"
                                       << QStringList{QStringLiteral("Internal error in module ORQ (orq_message_handler.cpp:"),
                                                      QStringLiteral("the display connection is gone")};

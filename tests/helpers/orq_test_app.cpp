@@ -4,6 +4,7 @@
 //   orq_test_app processors ROOT    start up against a processor tree, print counts
 //   orq_test_app bad-connect        orq_safe_connect with a signal that does not exist
 //   orq_test_app require            a failed precondition of module ORQ
+//   orq_test_app illegal-action     a catalogue lookup with a value beyond the catalogue
 //   orq_test_app qt-fatal           qFatal under the full message handler
 //   orq_test_app message-window     Qt messages mirrored into the message window
 //   orq_test_app start-up           full start-up and shutdown, print the settings problem
@@ -77,6 +78,10 @@ int run(ORQ_APP& app, const QStringList& args)
   if (mode == QLatin1String("require")) {
     const void* m_view = nullptr;
     GEN_REQUIRE("ORQ", m_view != NULL);
+    return 0;
+  }
+  if (mode == QLatin1String("illegal-action")) {
+    std::printf("%s\n", orq_get_menu_text(static_cast<ORQ_ACTION_ENUM>(ORQ_ACTION_COUNT + 1)));
     return 0;
   }
   if (mode == QLatin1String("qt-fatal")) {

@@ -27,7 +27,7 @@ ALIGN_TOP|Align &Top||Aligns the selected objects to the highest top edge|block/
 ALIGN_VERTICAL_CENTER|Align &Vertical Centers||Aligns the selected objects on their vertical centers|=ALIGN_HORIZONTAL_CENTER
 ALL_MESSAGES|&All Messages||Shows messages of every type|message
 ANALYZE_CURRENT_FILE|Analyze &Current File||Checks the syntax of the current file|generic_file/check:green
-ANALYZE_ELABORATE|Analyze and &Elaborate||Analyzes the sources and builds the design hierarchy|hierarchy/play:green
+ANALYZE_ELABORATE|&Analysis && Elaboration...||Analyzes the sources and builds the design hierarchy|hierarchy/play:green
 ANALYZE_TIMING|Analyze &Timing||Runs timing analysis on the current design|timing/play:green
 ANNOTATE|&Annotate...||Writes back-annotation data into the design|pencil
 APPLY_CONSTRAINTS|Apply &Constraints||Applies the constraints of the constraint files to the design|constraint/check:green
@@ -575,7 +575,7 @@ SHOW_WELCOME_SCREEN|Welcome &Screen||~|
 SIGNAL_PROPERTIES|Signal &Properties...||Shows the properties of the selected signal|
 SIMULATION_SETTINGS|Simulation &Settings...||Sets the options of the simulation|simulate/gear
 SIM_ADD_WAVE|Add to &Wave||Adds the selected objects to the waveform|waveform/plus:green
-SIM_BREAK|&Break|Ctrl+Break|Stops the simulation at once|pause:red
+SIM_BREAK|&Break|Ctrl+Pause|Stops the simulation at once|pause:red
 SIM_RESTART|Re&start||Restarts the simulation|refresh:green
 SIM_RUN|&Run|F9|Runs the simulation for one run length|play:green
 SIM_RUN_FOR|Run &For...||Runs the simulation for a given time|play/clock:green
@@ -619,7 +619,7 @@ STEP_OUT|Step &Out|Shift+F11|Steps out of the current call|step/arrow_up
 STEP_OVER|Step &Over|F10|Steps over the next call|step/arrow_right
 STOP|&Stop||Stops the current task|stop:red
 STOP_ALL|Stop &All||Stops every running task|stop/plus:red
-STOP_COMPILATION|Stop &Compilation|Ctrl+Shift+Break|Stops the compilation|compile/stop:red
+STOP_COMPILATION|Stop &Compilation|Ctrl+Shift+Pause|Stops the compilation|compile/stop:red
 STOP_SIMULATION|Stop Si&mulation||Stops the simulation|simulate/stop
 SUMMARY_REPORT|Summary &Report||Shows the summary of the results|report/info
 SUPPRESSION_MANAGER|Suppression &Manager...||Manages the message suppression rules|bell_off/gear

@@ -1,0 +1,54 @@
+// The anchor of bench_startup: a plain Qt program, not linked to the
+// library, that shows a main window with a menu and a tool bar of 20 actions
+// whose icons Qt's SVG engine reads from files, and reports its first paint.
+//   bench_startup_bare DIR FILE...
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include <cstdio>
+
+namespace {
+class PAINT_WATCH : public QObject {
+public:
+  bool eventFilter(QObject* watched, QEvent* event) override
+  {
+    if (event->type() == QEvent::Paint && !m_seen) {
+      m_seen = true;
+      QTimer::singleShot(0, [] {
+        std::printf("painted\n");
+        std::fflush(stdout);
+        QCoreApplication::quit();
+      });
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+private:
+  bool m_seen = false;
+};
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  QApplication app(argc, argv);
+  const QStringList args = QCoreApplication::arguments();
+  const QDir dir(args.value(1));
+  QMainWindow window;
+  QMenu* menu = window.menuBar()->addMenu(QStringLiteral("&File"));
+  QToolBar* bar = window.addToolBar(QStringLiteral("Standard"));
+  for (int i = 2; i < args.size(); ++i) {
+    auto* action = new QAction(QIcon(dir.filePath(args[i])), QStringLiteral("Action %1").arg(i), &window);
+    menu->addAction(action);
+    bar->addAction(action);
+  }
+  PAINT_WATCH watch;
+  window.installEventFilter(&watch);
+  window.resize(800, 600);
+  window.show();
+  return app.exec();
+}
