@@ -509,10 +509,11 @@ def tedq_error():
 
 def status_light():
     # The one flat icon of the icon catalogue: a status light for status bars.
-    a = Art(16, 16)
-    a.circle(8, 8, 6.5, fill=SLATE_MID)
-    a.circle(8, 8, 5.2, fill=GREEN)
-    a.circle(6.6, 6.4, 1.6, fill=(0xd8, 0xf5, 0xdc, 255))
+    # 32 pixels: Qt scales a bitmap icon down for 16, never up.
+    a = Art(32, 32)
+    a.circle(16, 16, 13, fill=SLATE_MID)
+    a.circle(16, 16, 10.4, fill=GREEN)
+    a.circle(13.2, 12.8, 3.2, fill=(0xd8, 0xf5, 0xdc, 255))
     return a.result()
 
 
