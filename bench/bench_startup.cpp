@@ -8,6 +8,8 @@
 //   bench_startup [runs]
 #include <orq.h>
 
+#include "bench_paint_watch.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -35,25 +37,6 @@ const ORQ_ACTION_ENUM k_menu[] = {ORQ_NEW_ACTION,  ORQ_OPEN_ACTION,  ORQ_SAVE_AC
                                   ORQ_ZOOM_TOOL_ACTION, ORQ_PAN_TOOL_ACTION, ORQ_OPTIONS_ACTION,
                                   ORQ_VANTOR_HELP_ACTION};
 
-// Reports the first paint of the watched window on standard output.
-class PAINT_WATCH : public QObject {
-public:
-  bool eventFilter(QObject* watched, QEvent* event) override
-  {
-    if (event->type() == QEvent::Paint && !m_seen) {
-      m_seen = true;
-      QTimer::singleShot(0, [] {
-        std::printf("painted\n");
-        std::fflush(stdout);
-        QCoreApplication::quit();
-      });
-    }
-    return QObject::eventFilter(watched, event);
-  }
-
-private:
-  bool m_seen = false;
-};
 
 int run_orq(int argc, char** argv)
 {
@@ -70,7 +53,7 @@ int run_orq(int argc, char** argv)
     menu->addAction(action);
     bar->addAction(action);
   }
-  PAINT_WATCH watch;
+  BENCH_PAINT_WATCH watch;
   window.installEventFilter(&watch);
   window.resize(800, 600);
   window.show();

@@ -2,6 +2,8 @@
 // library, that shows a main window with a menu and a tool bar of 20 actions
 // whose icons Qt's SVG engine reads from files, and reports its first paint.
 //   bench_startup_bare DIR FILE...
+#include "bench_paint_watch.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -11,27 +13,6 @@
 #include <QToolBar>
 
 #include <cstdio>
-
-namespace {
-class PAINT_WATCH : public QObject {
-public:
-  bool eventFilter(QObject* watched, QEvent* event) override
-  {
-    if (event->type() == QEvent::Paint && !m_seen) {
-      m_seen = true;
-      QTimer::singleShot(0, [] {
-        std::printf("painted\n");
-        std::fflush(stdout);
-        QCoreApplication::quit();
-      });
-    }
-    return QObject::eventFilter(watched, event);
-  }
-
-private:
-  bool m_seen = false;
-};
-}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -46,7 +27,7 @@ int main(int argc, char** argv)
     menu->addAction(action);
     bar->addAction(action);
   }
-  PAINT_WATCH watch;
+  BENCH_PAINT_WATCH watch;
   window.installEventFilter(&watch);
   window.resize(800, 600);
   window.show();

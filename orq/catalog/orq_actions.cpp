@@ -93,12 +93,6 @@ QString orq_get_action_enum_string(ORQ_ACTION_ENUM action)
 
 ORQ_ACTION_ENUM orq_get_action_enum(const QString& name)
 {
-  static const QHash<QString, int> values = [] {
-    QHash<QString, int> map;
-    map.reserve(ORQ_ACTION_COUNT);
-    for (int value = 1; value <= ORQ_ACTION_COUNT; ++value)
-      map.insert(QString::fromLatin1(orq_action_table[value].name), value);
-    return map;
-  }();
+  static const QHash<QString, int> values = orq_catalog_name_map(orq_action_table);
   return static_cast<ORQ_ACTION_ENUM>(values.value(name, 0));
 }

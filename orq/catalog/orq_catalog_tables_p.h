@@ -4,7 +4,9 @@
 #include "orq_action_texts.h"
 #include "orq_icon_enum.h"
 
+#include <QHash>
 #include <QKeySequence>
+#include <QString>
 
 struct ORQ_ACTION_ROW {
   const char* name;             // the enumerator name
@@ -24,3 +26,14 @@ struct ORQ_ICON_ROW {
 
 extern const ORQ_ACTION_ROW orq_action_table[ORQ_ACTION_COUNT + 1];
 extern const ORQ_ICON_ROW orq_icon_table[ORQ_ICON_COUNT + 1];
+
+// A map from every row's enumerator name to its value, for the name lookups.
+template <typename ROW, int N>
+QHash<QString, int> orq_catalog_name_map(const ROW (&rows)[N])
+{
+  QHash<QString, int> map;
+  map.reserve(N - 1);
+  for (int value = 1; value < N; ++value)
+    map.insert(QString::fromLatin1(rows[value].name), value);
+  return map;
+}

@@ -28,13 +28,7 @@ QIcon orq_get_icon(ORQ_ICON_ENUM icon)
 
 ORQ_ICON_ENUM orq_get_icon_enum(const QString& name)
 {
-  static const QHash<QString, int> values = [] {
-    QHash<QString, int> map;
-    map.reserve(ORQ_ICON_COUNT);
-    for (int value = 1; value <= ORQ_ICON_COUNT; ++value)
-      map.insert(QString::fromLatin1(orq_icon_table[value].name), value);
-    return map;
-  }();
+  static const QHash<QString, int> values = orq_catalog_name_map(orq_icon_table);
   return static_cast<ORQ_ICON_ENUM>(values.value(name, 0));
 }
 
