@@ -115,6 +115,11 @@ unsigned FLOORPLAN_WINDOW::seed() const
   return m_seed;
 }
 
+QString FLOORPLAN_WINDOW::status_text() const
+{
+  return m_hover->text();
+}
+
 void FLOORPLAN_WINDOW::set_seed(unsigned seed)
 {
   m_seed = seed;

@@ -19,6 +19,8 @@ public:
   ~FLOORPLAN_WINDOW() override;
 
   unsigned seed() const;
+  // What the left of the status bar says.
+  QString status_text() const;
   void set_seed(unsigned seed);
 
 public slots:

@@ -6,6 +6,7 @@
 
 #include <orq.h>
 
+#include <QAction>
 #include <QCommandLineParser>
 #include <QTimer>
 
@@ -37,7 +38,11 @@ int main(int argc, char** argv)
   const QCommandLineOption icons(QStringLiteral("icons"),
                                  QStringLiteral("Render every icon of the catalogue to a PNG sheet and exit."),
                                  QStringLiteral("file"));
-  parser.addOptions({screenshot, seed, blocks, options_shot, icons});
+  const QCommandLineOption trigger(QStringLiteral("trigger"),
+                                   QStringLiteral("Trigger a standard action of the menus by its enumerator name "
+                                                  "(ORQ_..._ACTION) before the screenshot; may be repeated."),
+                                   QStringLiteral("action"));
+  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -59,8 +64,19 @@ int main(int argc, char** argv)
     rc = dialog->grab().save(parser.value(options_shot), "PNG") ? 0 : 1;
     delete dialog;
   }
+  for (const QString& name : parser.values(trigger)) {
+    QAction* action = window.findChild<QAction*>(name);
+    if (!action) {
+      std::fprintf(stderr, "floorplan_viewer: no action %s in the menus\n", qPrintable(name));
+      rc = 1;
+      continue;
+    }
+    action->trigger();
+  }
   if (parser.isSet(screenshot)) {
     QCoreApplication::processEvents();
+    std::printf("floorplan_viewer: status: %s\n", qPrintable(window.status_text()));
+    std::printf("floorplan_viewer: seed: %u\n", window.seed());
     const QString file = parser.value(screenshot);
     if (!window.grab().save(file, "PNG")) {
       std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 namespace {
-int run_viewer(const QString& home, const QStringList& args, QString* err = nullptr)
+int run_viewer(const QString& home, const QStringList& args, QString* err = nullptr, QString* out = nullptr)
 {
   QProcess viewer;
   viewer.setProcessEnvironment(orq_test_child_environment(home));
@@ -19,6 +19,8 @@ int run_viewer(const QString& home, const QStringList& args, QString* err = null
   }
   if (err)
     *err = QString::fromLocal8Bit(viewer.readAllStandardError());
+  if (out)
+    *out = QString::fromLocal8Bit(viewer.readAllStandardOutput());
   return viewer.exitStatus() == QProcess::NormalExit ? viewer.exitCode() : -2;
 }
 
@@ -125,6 +127,70 @@ private slots:
     QString err;
     QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), home.filePath(QStringLiteral("no/such/dir/x.png"))}, &err), 1);
     QVERIFY(err.contains(QStringLiteral("cannot write")));
+  }
+
+  void menu_commands_are_catalogue_actions_data()
+  {
+    QTest::addColumn<QStringList>("actions");
+    QTest::addColumn<QString>("expected");
+    const QString regenerate = QStringLiteral("ORQ_REGENERATE_FLOORPLAN_ACTION");
+    const QString undo = QStringLiteral("ORQ_UNDO_ACTION");
+    const QString redo = QStringLiteral("ORQ_REDO_ACTION");
+    QTest::newRow("Tcl action of the partition planner")
+        << QStringList{QStringLiteral("ORQ_START_PARTITION_PLANNER_ACTION")}
+        << QStringLiteral("status: Partition planner: 18 blocks in 5 partitions");
+    QTest::newRow("nothing triggered") << QStringList() << QStringLiteral("seed: 7");
+    // 7 * 1103515245 + 12345, modulo 2^32
+    QTest::newRow("regenerate") << QStringList{regenerate} << QStringLiteral("seed: 3429651764");
+    QTest::newRow("regenerate, undo") << QStringList{regenerate, undo} << QStringLiteral("seed: 7");
+    QTest::newRow("regenerate, undo, redo") << QStringList{regenerate, undo, redo} << QStringLiteral("seed: 3429651764");
+  }
+
+  void menu_commands_are_catalogue_actions()
+  {
+    QFETCH(QStringList, actions);
+    QFETCH(QString, expected);
+    QTemporaryDir home;
+    QStringList args{QStringLiteral("--screenshot"), home.filePath(QStringLiteral("shot.png"))};
+    for (const QString& action : actions)
+      args << QStringLiteral("--trigger") << action;
+    QString err;
+    QString out;
+    QCOMPARE(run_viewer(home.path(), args, &err, &out), 0);
+    QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: ") + expected + QLatin1Char('\n')), qPrintable(out + err));
+  }
+
+  void an_action_that_is_not_in_the_menus_is_reported()
+  {
+    QTemporaryDir home;
+    QString err;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--trigger"), QStringLiteral("ORQ_NO_SUCH_ACTION"), QStringLiteral("--screenshot"),
+                         home.filePath(QStringLiteral("shot.png"))},
+                        &err),
+             1);
+    QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: no action ORQ_NO_SUCH_ACTION in the menus")), qPrintable(err));
+  }
+
+  void icon_sheet_shows_every_icon()
+  {
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("icons.png"));
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--icons"), png}), 0);
+    const QImage sheet(png);
+    // Six cells of 250 x 40 pixels a row, under a 30 pixel title.
+    QCOMPARE(sheet.size(), QSize(6 * 250, 30 + 128 * 40));
+    int drawn = 0;
+    for (int cell = 0; cell < 766; ++cell) {
+      const QRect picture((cell % 6) * 250 + 24, 30 + (cell / 6) * 40 + 4, 32, 32);
+      const QRgb background = sheet.pixel(picture.topLeft() - QPoint(2, 0));
+      int ink = 0;
+      for (int y = picture.top(); y <= picture.bottom(); ++y)
+        for (int x = picture.left(); x <= picture.right(); ++x)
+          ink += sheet.pixel(x, y) != background ? 1 : 0;
+      drawn += ink >= 32 ? 1 : 0;
+    }
+    QCOMPARE(drawn, 766);
   }
 };
 
