@@ -46,7 +46,8 @@ double run_mode(const char* mode)
       icons.push_back(icon);
     }
     for (int value = 1; value <= ORQ_ACTION_COUNT; ++value) {
-      auto* action = new QAction(QString::fromUtf8(orq_get_menu_text(static_cast<ORQ_ACTION_ENUM>(value))), &owner);
+      auto* action =
+          new QAction(QString::fromUtf8(orq_get_menu_text(static_cast<ORQ_ACTION_ENUM>(value))), &owner);
       action->setIcon(icons[size_t(value) % icons.size()]);
     }
   }
@@ -68,7 +69,7 @@ double median(std::vector<double> values)
   return values[values.size() / 2];
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -88,7 +89,8 @@ int main(int argc, char** argv)
     std::vector<double> times;
     for (int run = 0; run < runs; ++run) {
       QProcess child;
-      child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), QLatin1String(modes[m])});
+      child.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--child"), QLatin1String(modes[m])});
       child.waitForFinished(60000);
       const double ms = QString::fromLatin1(child.readAllStandardOutput()).trimmed().toDouble();
       if (child.exitCode() != 0 || ms < 0) {
@@ -104,7 +106,7 @@ int main(int argc, char** argv)
   std::printf("| First orq_get_icon + 746 catalogue actions with icons | %.2f ms |\n", results[0]);
   std::printf("| Plain Qt: 746 bare actions | %.2f ms |\n", results[1]);
   std::printf("| Plain Qt: 766 icons from SVG + 746 actions | %.2f ms |\n", results[2]);
-  std::printf("\nCatalogue %.1f us per action; target under 30 ms: %s\n", results[0] * 1000.0 / ORQ_ACTION_COUNT,
-              results[0] < 30.0 ? "met" : "MISSED");
+  std::printf("\nCatalogue %.1f us per action; target under 30 ms: %s\n",
+              results[0] * 1000.0 / ORQ_ACTION_COUNT, results[0] < 30.0 ? "met" : "MISSED");
   return 0;
 }

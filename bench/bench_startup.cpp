@@ -30,13 +30,12 @@
 
 namespace {
 
-const ORQ_ACTION_ENUM k_menu[] = {ORQ_NEW_ACTION,  ORQ_OPEN_ACTION,  ORQ_SAVE_ACTION,  ORQ_SAVE_AS_ACTION,
-                                  ORQ_PRINT_ACTION, ORQ_EXIT_ACTION, ORQ_UNDO_ACTION, ORQ_REDO_ACTION,
-                                  ORQ_CUT_ACTION, ORQ_COPY_ACTION, ORQ_PASTE_ACTION, ORQ_DELETE_ACTION,
-                                  ORQ_FIND_ACTION, ORQ_ZOOM_IN_ACTION, ORQ_ZOOM_OUT_ACTION, ORQ_ZOOM_FIT_ACTION,
-                                  ORQ_ZOOM_TOOL_ACTION, ORQ_PAN_TOOL_ACTION, ORQ_OPTIONS_ACTION,
-                                  ORQ_VANTOR_HELP_ACTION};
-
+const ORQ_ACTION_ENUM k_menu[] = {
+    ORQ_NEW_ACTION,       ORQ_OPEN_ACTION,     ORQ_SAVE_ACTION,     ORQ_SAVE_AS_ACTION,
+    ORQ_PRINT_ACTION,     ORQ_EXIT_ACTION,     ORQ_UNDO_ACTION,     ORQ_REDO_ACTION,
+    ORQ_CUT_ACTION,       ORQ_COPY_ACTION,     ORQ_PASTE_ACTION,    ORQ_DELETE_ACTION,
+    ORQ_FIND_ACTION,      ORQ_ZOOM_IN_ACTION,  ORQ_ZOOM_OUT_ACTION, ORQ_ZOOM_FIT_ACTION,
+    ORQ_ZOOM_TOOL_ACTION, ORQ_PAN_TOOL_ACTION, ORQ_OPTIONS_ACTION,  ORQ_VANTOR_HELP_ACTION};
 
 int run_orq(int argc, char** argv)
 {
@@ -79,7 +78,7 @@ double time_child(const QString& program, const QStringList& args)
   return ms;
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -94,7 +93,8 @@ int main(int argc, char** argv)
   for (ORQ_ACTION_ENUM id : k_menu) {
     const QString name = orq_get_action_enum_string(id).toLower() + QStringLiteral(".svg");
     QFile::copy(orq_get_icon_file_names(orq_get_icon_enum(orq_get_action_enum_string(id).replace(
-                    QLatin1String("_ACTION"), QLatin1String("_ICON")))).value(0),
+                                            QLatin1String("_ACTION"), QLatin1String("_ICON"))))
+                    .value(0),
                 pictures.filePath(name));
     bare_args << name;
   }
@@ -120,6 +120,7 @@ int main(int argc, char** argv)
   std::printf("| Program | Time |\n|---|---|\n");
   std::printf("| Bare Qt: QApplication + QMainWindow, 20 actions with SVG icons | %.1f ms |\n", bare_ms);
   std::printf("| ORQ tool: full start-up + ORQ_MAIN_WINDOW, 20 catalogue actions | %.1f ms |\n", orq_ms);
-  std::printf("\nRatio %.2f; target at most 1.20: %s\n", orq_ms / bare_ms, orq_ms / bare_ms <= 1.2 ? "met" : "MISSED");
+  std::printf("\nRatio %.2f; target at most 1.20: %s\n", orq_ms / bare_ms,
+              orq_ms / bare_ms <= 1.2 ? "met" : "MISSED");
   return 0;
 }

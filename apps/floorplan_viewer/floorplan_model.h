@@ -9,7 +9,7 @@
 struct FLOORPLAN_BLOCK {
   QString name;
   QString cell;
-  QRect rect;  // logical units (nanometres / 1000)
+  QRect rect; // logical units (nanometres / 1000)
   QColor fill;
 };
 

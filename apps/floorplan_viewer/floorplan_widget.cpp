@@ -108,5 +108,7 @@ void FLOORPLAN_WIDGET::mouseMoveEvent(QMouseEvent* event)
                              .arg(block.rect.height() / 1000.0));
       return;
     }
-  emit block_hovered(QStringLiteral("x %1 um, y %2 um").arg(logical.x() / 1000.0, 0, 'f', 2).arg(logical.y() / 1000.0, 0, 'f', 2));
+  emit block_hovered(QStringLiteral("x %1 um, y %2 um")
+                         .arg(logical.x() / 1000.0, 0, 'f', 2)
+                         .arg(logical.y() / 1000.0, 0, 'f', 2));
 }

@@ -12,17 +12,17 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QToolBar>
-#include <QDialogButtonBox>
-#include <QVBoxLayout>
-#include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QUndoCommand>
+#include <QVBoxLayout>
 
 #include <tcl.h>
 
@@ -60,7 +60,7 @@ private:
   unsigned m_from;
   unsigned m_to;
 };
-}  // namespace
+} // namespace
 
 FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count)
     : m_view(new FLOORPLAN_WIDGET(this))
@@ -77,12 +77,11 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count)
   statusBar()->addWidget(m_hover, 1);
   QString tcl_version;
   gen_tcl().eval(QStringLiteral("info patchlevel"), &tcl_version);
-  statusBar()->addPermanentWidget(new QLabel(
-      QStringLiteral("Cores %1 | logical %2 | Tcl %3")
-          .arg(gen_processor_mgr().cores())
-          .arg(gen_processor_mgr().logical_processors())
-          .arg(tcl_version),
-      this));
+  statusBar()->addPermanentWidget(new QLabel(QStringLiteral("Cores %1 | logical %2 | Tcl %3")
+                                                 .arg(gen_processor_mgr().cores())
+                                                 .arg(gen_processor_mgr().logical_processors())
+                                                 .arg(tcl_version),
+                                             this));
   m_hover->setText(QStringLiteral("Ready"));
   register_tcl_commands();
   orq_safe_connect(m_view, SIGNAL(block_hovered(QString)), m_hover, SLOT(setText(QString)),
@@ -163,9 +162,10 @@ void FLOORPLAN_WINDOW::build_menus()
     // The undo stack's actions keep their own enabled state; they take the
     // catalogue's looks.
     for (ORQ_ACTION_ENUM id : {ORQ_UNDO_ACTION, ORQ_REDO_ACTION}) {
-      QAction* action = id == ORQ_UNDO_ACTION
-                            ? app->get_undo_redo_mgr()->create_undo_action(this, QString::fromUtf8(orq_get_menu_text(id)))
-                            : app->get_undo_redo_mgr()->create_redo_action(this, QString::fromUtf8(orq_get_menu_text(id)));
+      QAction* action =
+          id == ORQ_UNDO_ACTION
+              ? app->get_undo_redo_mgr()->create_undo_action(this, QString::fromUtf8(orq_get_menu_text(id)))
+              : app->get_undo_redo_mgr()->create_redo_action(this, QString::fromUtf8(orq_get_menu_text(id)));
       QAction* model = orq_create_action(id, action);
       action->setObjectName(orq_get_action_enum_string(id));
       action->setIcon(model->icon());
@@ -179,7 +179,8 @@ void FLOORPLAN_WINDOW::build_menus()
   edit->addSeparator();
   QAction* copy = add_standard_action(edit, ORQ_COPY_ACTION);
   copy->setStatusTip(QStringLiteral("Copies a picture of the floor plan to the Clipboard"));
-  connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setImage(m_view->grab().toImage()); });
+  connect(copy, &QAction::triggered, this,
+          [this] { QGuiApplication::clipboard()->setImage(m_view->grab().toImage()); });
 
   QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
   QAction* regenerate = add_standard_action(view, ORQ_REGENERATE_FLOORPLAN_ACTION);
@@ -191,7 +192,8 @@ void FLOORPLAN_WINDOW::build_menus()
     toggle->setCheckable(true);
     toggle->setChecked(true);
     connect(toggle, &QAction::toggled, m_view,
-            id == ORQ_SHOW_PADS_ACTION ? &FLOORPLAN_WIDGET::set_show_pads : &FLOORPLAN_WIDGET::set_show_block_names);
+            id == ORQ_SHOW_PADS_ACTION ? &FLOORPLAN_WIDGET::set_show_pads
+                                       : &FLOORPLAN_WIDGET::set_show_block_names);
   }
 
   QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
@@ -201,13 +203,15 @@ void FLOORPLAN_WINDOW::build_menus()
 
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
   QAction* topics = add_standard_action(help, ORQ_VANTOR_HELP_ACTION);
-  connect(topics, &QAction::triggered, this, [this] { gen_help().show_help(this, QStringLiteral("floorplan_viewer")); });
+  connect(topics, &QAction::triggered, this,
+          [this] { gen_help().show_help(this, QStringLiteral("floorplan_viewer")); });
   help->addSeparator();
   QAction* about = add_standard_action(help, ORQ_ABOUT_VANTOR_ACTION);
   connect(about, &QAction::triggered, this, [this] {
     QMessageBox box(this);
     box.setWindowTitle(QStringLiteral("About Vantor"));
-    box.setIconPixmap(orq_get_pixmap(ORQ_FPV_SPLASH_SCREEN_PIXMAP).scaledToWidth(320, Qt::SmoothTransformation));
+    box.setIconPixmap(
+        orq_get_pixmap(ORQ_FPV_SPLASH_SCREEN_PIXMAP).scaledToWidth(320, Qt::SmoothTransformation));
     box.setText(QStringLiteral("Floor Plan Viewer\nThe sample tool of the ORQ framework."));
     box.exec();
   });
@@ -256,8 +260,7 @@ int FLOORPLAN_WINDOW::open_options()
 
 void FLOORPLAN_WINDOW::restore_geometry()
 {
-  const QByteArray geometry =
-      gen_settings().value(k_settings_key, QStringLiteral("geometry")).toByteArray();
+  const QByteArray geometry = gen_settings().value(k_settings_key, QStringLiteral("geometry")).toByteArray();
   // restoreGeometry refuses data it cannot read; the default size stands then.
   if (geometry.isEmpty() || !restoreGeometry(geometry))
     resize(1100, 760);

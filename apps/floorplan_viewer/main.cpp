@@ -35,13 +35,14 @@ int main(int argc, char** argv)
   const QCommandLineOption options_shot(QStringLiteral("options-screenshot"),
                                         QStringLiteral("Render the Options dialog to a PNG file and exit."),
                                         QStringLiteral("file"));
-  const QCommandLineOption icons(QStringLiteral("icons"),
-                                 QStringLiteral("Render every icon of the catalogue to a PNG sheet and exit."),
-                                 QStringLiteral("file"));
-  const QCommandLineOption trigger(QStringLiteral("trigger"),
-                                   QStringLiteral("Trigger a standard action of the menus by its enumerator name "
-                                                  "(ORQ_..._ACTION) before the screenshot; may be repeated."),
-                                   QStringLiteral("action"));
+  const QCommandLineOption icons(
+      QStringLiteral("icons"), QStringLiteral("Render every icon of the catalogue to a PNG sheet and exit."),
+      QStringLiteral("file"));
+  const QCommandLineOption trigger(
+      QStringLiteral("trigger"),
+      QStringLiteral("Trigger a standard action of the menus by its enumerator name "
+                     "(ORQ_..._ACTION) before the screenshot; may be repeated."),
+      QStringLiteral("action"));
   parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger});
   parser.process(app);
 

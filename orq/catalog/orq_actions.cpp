@@ -36,7 +36,7 @@ QKeySequence parse_custom_shortcut(const char* text)
   return QKeySequence(portable, QKeySequence::PortableText);
 }
 
-}  // namespace
+} // namespace
 
 QAction* orq_create_action(ORQ_ACTION_ENUM action, QObject* parent)
 {
@@ -73,11 +73,26 @@ QAction* orq_create_action(ORQ_ACTION_ENUM action, QObject* parent)
   return result;
 }
 
-const char* orq_get_menu_text(ORQ_ACTION_ENUM action) { return row_of(action).menu_text; }
-const char* orq_get_statustip(ORQ_ACTION_ENUM action) { return row_of(action).statustip; }
-const char* orq_get_tooltip(ORQ_ACTION_ENUM action) { return row_of(action).tooltip; }
-const char* orq_get_custom_shortcut(ORQ_ACTION_ENUM action) { return row_of(action).custom_shortcut; }
-const char* orq_get_tcl_function(ORQ_ACTION_ENUM action) { return row_of(action).tcl_function; }
+const char* orq_get_menu_text(ORQ_ACTION_ENUM action)
+{
+  return row_of(action).menu_text;
+}
+const char* orq_get_statustip(ORQ_ACTION_ENUM action)
+{
+  return row_of(action).statustip;
+}
+const char* orq_get_tooltip(ORQ_ACTION_ENUM action)
+{
+  return row_of(action).tooltip;
+}
+const char* orq_get_custom_shortcut(ORQ_ACTION_ENUM action)
+{
+  return row_of(action).custom_shortcut;
+}
+const char* orq_get_tcl_function(ORQ_ACTION_ENUM action)
+{
+  return row_of(action).tcl_function;
+}
 
 QString orq_get_menu_text_without_symbol(ORQ_ACTION_ENUM action)
 {

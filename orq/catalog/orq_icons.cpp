@@ -8,9 +8,12 @@
 
 namespace {
 
-bool is_valid(ORQ_ICON_ENUM icon) { return icon >= 1 && icon <= ORQ_ICON_COUNT; }
+bool is_valid(ORQ_ICON_ENUM icon)
+{
+  return icon >= 1 && icon <= ORQ_ICON_COUNT;
+}
 
-}  // namespace
+} // namespace
 
 QIcon orq_get_icon(ORQ_ICON_ENUM icon)
 {

@@ -82,17 +82,27 @@ const FILE_TYPE_ROW k_file_types[] = {
 
 static_assert(std::size(k_file_types) == 26, "the suite has 26 file types with their own icon");
 
-bool valid_cursor(int cursor) { return cursor >= 1 && cursor < int(std::size(k_cursors)); }
-bool valid_pixmap(int pixmap) { return pixmap >= 1 && pixmap < int(std::size(k_pixmaps)); }
-bool valid_movie(int movie) { return movie >= 1 && movie < int(std::size(k_movies)); }
+bool valid_cursor(int cursor)
+{
+  return cursor >= 1 && cursor < int(std::size(k_cursors));
+}
+bool valid_pixmap(int pixmap)
+{
+  return pixmap >= 1 && pixmap < int(std::size(k_pixmaps));
+}
+bool valid_movie(int movie)
+{
+  return movie >= 1 && movie < int(std::size(k_movies));
+}
 
-}  // namespace
+} // namespace
 
 QString orq_get_cursor_file_name(ORQ_CURSOR_ENUM cursor, bool mask)
 {
   if (!valid_cursor(cursor))
     ORQ_INTERNAL_ERROR("Invalid cursor type");
-  return QLatin1String(":/cursors/") + QLatin1String(mask ? k_cursors[cursor].mask : k_cursors[cursor].bitmap);
+  return QLatin1String(":/cursors/") +
+         QLatin1String(mask ? k_cursors[cursor].mask : k_cursors[cursor].bitmap);
 }
 
 QCursor orq_get_cursor(ORQ_CURSOR_ENUM cursor)
@@ -100,8 +110,8 @@ QCursor orq_get_cursor(ORQ_CURSOR_ENUM cursor)
   if (!valid_cursor(cursor))
     ORQ_INTERNAL_ERROR("Invalid cursor type");
   const CURSOR_ROW& row = k_cursors[cursor];
-  return QCursor(QBitmap(orq_get_cursor_file_name(cursor, false)), QBitmap(orq_get_cursor_file_name(cursor, true)),
-                 row.hot_x, row.hot_y);
+  return QCursor(QBitmap(orq_get_cursor_file_name(cursor, false)),
+                 QBitmap(orq_get_cursor_file_name(cursor, true)), row.hot_x, row.hot_y);
 }
 
 QString orq_get_pixmap_file_name(ORQ_PIXMAP_ENUM pixmap)
@@ -111,7 +121,10 @@ QString orq_get_pixmap_file_name(ORQ_PIXMAP_ENUM pixmap)
   return QLatin1String(":/pixmaps/") + QLatin1String(k_pixmaps[pixmap]);
 }
 
-QPixmap orq_get_pixmap(ORQ_PIXMAP_ENUM pixmap) { return QPixmap(orq_get_pixmap_file_name(pixmap)); }
+QPixmap orq_get_pixmap(ORQ_PIXMAP_ENUM pixmap)
+{
+  return QPixmap(orq_get_pixmap_file_name(pixmap));
+}
 
 QString orq_get_movie_file_name(ORQ_MOVIE_ENUM movie)
 {
@@ -120,7 +133,10 @@ QString orq_get_movie_file_name(ORQ_MOVIE_ENUM movie)
   return QLatin1String(":/movies/") + QLatin1String(k_movies[movie]);
 }
 
-QMovie* orq_get_movie(ORQ_MOVIE_ENUM movie) { return new QMovie(orq_get_movie_file_name(movie)); }
+QMovie* orq_get_movie(ORQ_MOVIE_ENUM movie)
+{
+  return new QMovie(orq_get_movie_file_name(movie));
+}
 
 QIcon orq_get_file_type_icon(FIO_FILE_TYPE type)
 {

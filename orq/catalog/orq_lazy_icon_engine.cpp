@@ -3,9 +3,9 @@
 #include <QPainter>
 
 ORQ_LAZY_ICON_ENGINE::ORQ_LAZY_ICON_ENGINE(const ORQ_LAZY_ICON_ENGINE& other)
-  : QIconEngine(other)
-  , m_files(other.m_files)
-  , m_icon(other.m_icon ? std::make_unique<QIcon>(*other.m_icon) : nullptr)
+    : QIconEngine(other)
+    , m_files(other.m_files)
+    , m_icon(other.m_icon ? std::make_unique<QIcon>(*other.m_icon) : nullptr)
 {
 }
 
@@ -54,9 +54,15 @@ QList<QSize> ORQ_LAZY_ICON_ENGINE::availableSizes(QIcon::Mode mode, QIcon::State
   return loaded().availableSizes(mode, state);
 }
 
-QString ORQ_LAZY_ICON_ENGINE::key() const { return QStringLiteral("ORQ_LAZY_ICON_ENGINE"); }
+QString ORQ_LAZY_ICON_ENGINE::key() const
+{
+  return QStringLiteral("ORQ_LAZY_ICON_ENGINE");
+}
 
-QIconEngine* ORQ_LAZY_ICON_ENGINE::clone() const { return new ORQ_LAZY_ICON_ENGINE(*this); }
+QIconEngine* ORQ_LAZY_ICON_ENGINE::clone() const
+{
+  return new ORQ_LAZY_ICON_ENGINE(*this);
+}
 
 void ORQ_LAZY_ICON_ENGINE::virtual_hook(int id, void* data)
 {

@@ -36,5 +36,5 @@ private:
   QIcon& loaded() const;
 
   QVector<FILE_ENTRY> m_files;
-  mutable std::unique_ptr<QIcon> m_icon;  // the real icon, made on first use
+  mutable std::unique_ptr<QIcon> m_icon; // the real icon, made on first use
 };

@@ -5,19 +5,19 @@
 #include "orq_require_p.h"
 
 ORQ_TCL_ACTION::ORQ_TCL_ACTION(QObject* parent)
-  : QAction(parent)
+    : QAction(parent)
 {
   connect_trigger();
 }
 
 ORQ_TCL_ACTION::ORQ_TCL_ACTION(const QString& text, QObject* parent)
-  : QAction(text, parent)
+    : QAction(text, parent)
 {
   connect_trigger();
 }
 
 ORQ_TCL_ACTION::ORQ_TCL_ACTION(const QIcon& icon, const QString& text, QObject* parent)
-  : QAction(icon, text, parent)
+    : QAction(icon, text, parent)
 {
   connect_trigger();
 }
@@ -28,7 +28,10 @@ void ORQ_TCL_ACTION::connect_trigger()
   ORQ_REQUIRE(okay);
 }
 
-void ORQ_TCL_ACTION::set_tcl_function(const char* command) { m_tcl_function = command ? command : ""; }
+void ORQ_TCL_ACTION::set_tcl_function(const char* command)
+{
+  m_tcl_function = command ? command : "";
+}
 
 void ORQ_TCL_ACTION::execute_action()
 {

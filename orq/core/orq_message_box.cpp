@@ -7,10 +7,14 @@ namespace {
 QMessageBox::Icon icon_of(GEN_PROMPT_TYPE type)
 {
   switch (type) {
-  case GEN_PROMPT_TYPE::INFORMATION: return QMessageBox::Information;
-  case GEN_PROMPT_TYPE::WARNING: return QMessageBox::Warning;
-  case GEN_PROMPT_TYPE::ERROR: return QMessageBox::Critical;
-  case GEN_PROMPT_TYPE::QUESTION: return QMessageBox::Question;
+  case GEN_PROMPT_TYPE::INFORMATION:
+    return QMessageBox::Information;
+  case GEN_PROMPT_TYPE::WARNING:
+    return QMessageBox::Warning;
+  case GEN_PROMPT_TYPE::ERROR:
+    return QMessageBox::Critical;
+  case GEN_PROMPT_TYPE::QUESTION:
+    return QMessageBox::Question;
   }
   return QMessageBox::NoIcon;
 }
@@ -24,12 +28,13 @@ QMessageBox::StandardButton first_of(QMessageBox::StandardButtons buttons)
   return QMessageBox::NoButton;
 }
 
-}  // namespace
+} // namespace
 
 QMessageBox::StandardButton orq_message_box(const QString& text, GEN_PROMPT_TYPE type, QWidget* parent,
                                             QMessageBox::StandardButtons buttons)
 {
-  if (gen_message_service().is_regression_test_mode() || !qobject_cast<QApplication*>(QCoreApplication::instance()))
+  if (gen_message_service().is_regression_test_mode() ||
+      !qobject_cast<QApplication*>(QCoreApplication::instance()))
     return first_of(buttons);
   QString title = QGuiApplication::applicationDisplayName();
   if (title.isEmpty())

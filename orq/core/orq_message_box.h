@@ -9,6 +9,6 @@
 // the button pressed. In regression-test mode nobody is there to answer, so
 // it returns the first of the buttons at once. The box's object name is
 // "orq_message_box".
-ORQ_EXPORT QMessageBox::StandardButton orq_message_box(const QString& text, GEN_PROMPT_TYPE type,
-                                                       QWidget* parent = nullptr,
-                                                       QMessageBox::StandardButtons buttons = QMessageBox::Ok);
+ORQ_EXPORT QMessageBox::StandardButton
+orq_message_box(const QString& text, GEN_PROMPT_TYPE type, QWidget* parent = nullptr,
+                QMessageBox::StandardButtons buttons = QMessageBox::Ok);

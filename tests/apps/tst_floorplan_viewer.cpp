@@ -32,7 +32,7 @@ int distinct_colours(const QImage& image)
       colours.insert(image.pixel(x, y));
   return colours.size();
 }
-}  // namespace
+} // namespace
 
 class TST_FLOORPLAN_VIEWER : public QObject {
   Q_OBJECT
@@ -80,9 +80,15 @@ private slots:
     const QString a = home.filePath(QStringLiteral("a.png"));
     const QString b = home.filePath(QStringLiteral("b.png"));
     const QString c = home.filePath(QStringLiteral("c.png"));
-    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), a, QStringLiteral("--seed"), QStringLiteral("3")}), 0);
-    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), b, QStringLiteral("--seed"), QStringLiteral("3")}), 0);
-    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), c, QStringLiteral("--seed"), QStringLiteral("4")}), 0);
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--screenshot"), a, QStringLiteral("--seed"), QStringLiteral("3")}),
+             0);
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--screenshot"), b, QStringLiteral("--seed"), QStringLiteral("3")}),
+             0);
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--screenshot"), c, QStringLiteral("--seed"), QStringLiteral("4")}),
+             0);
     QCOMPARE(QImage(a), QImage(b));
     QVERIFY(QImage(a) != QImage(c));
   }
@@ -92,12 +98,12 @@ private slots:
     QTest::addColumn<QByteArray>("colors");
     QTest::addColumn<QString>("corner");
     QTest::newRow("no overrides") << QByteArray() << "#1e2430";
-    QTest::newRow("background override") << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n")
-                                         << "#ff0000";
-    QTest::newRow("older version ignored") << QByteArray("Color_version=10\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n")
-                                           << "#1e2430";
-    QTest::newRow("malformed value ignored") << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff00\n")
-                                             << "#1e2430";
+    QTest::newRow("background override")
+        << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n") << "#ff0000";
+    QTest::newRow("older version ignored")
+        << QByteArray("Color_version=10\nORQ_FPV_BACKGROUND_COLOR=#ff0000\n") << "#1e2430";
+    QTest::newRow("malformed value ignored")
+        << QByteArray("Color_version=11\nORQ_FPV_BACKGROUND_COLOR=#ff00\n") << "#1e2430";
   }
 
   void theme_overrides_come_back_after_a_restart()
@@ -125,7 +131,10 @@ private slots:
   {
     QTemporaryDir home;
     QString err;
-    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), home.filePath(QStringLiteral("no/such/dir/x.png"))}, &err), 1);
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--screenshot"), home.filePath(QStringLiteral("no/such/dir/x.png"))},
+                        &err),
+             1);
     QVERIFY(err.contains(QStringLiteral("cannot write")));
   }
 
@@ -143,7 +152,8 @@ private slots:
     // 7 * 1103515245 + 12345, modulo 2^32
     QTest::newRow("regenerate") << QStringList{regenerate} << QStringLiteral("seed: 3429651764");
     QTest::newRow("regenerate, undo") << QStringList{regenerate, undo} << QStringLiteral("seed: 7");
-    QTest::newRow("regenerate, undo, redo") << QStringList{regenerate, undo, redo} << QStringLiteral("seed: 3429651764");
+    QTest::newRow("regenerate, undo, redo")
+        << QStringList{regenerate, undo, redo} << QStringLiteral("seed: 3429651764");
   }
 
   void menu_commands_are_catalogue_actions()
@@ -157,7 +167,8 @@ private slots:
     QString err;
     QString out;
     QCOMPARE(run_viewer(home.path(), args, &err, &out), 0);
-    QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: ") + expected + QLatin1Char('\n')), qPrintable(out + err));
+    QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: ") + expected + QLatin1Char('\n')),
+             qPrintable(out + err));
   }
 
   void an_action_that_is_not_in_the_menus_is_reported()
@@ -165,11 +176,12 @@ private slots:
     QTemporaryDir home;
     QString err;
     QCOMPARE(run_viewer(home.path(),
-                        {QStringLiteral("--trigger"), QStringLiteral("ORQ_NO_SUCH_ACTION"), QStringLiteral("--screenshot"),
-                         home.filePath(QStringLiteral("shot.png"))},
+                        {QStringLiteral("--trigger"), QStringLiteral("ORQ_NO_SUCH_ACTION"),
+                         QStringLiteral("--screenshot"), home.filePath(QStringLiteral("shot.png"))},
                         &err),
              1);
-    QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: no action ORQ_NO_SUCH_ACTION in the menus")), qPrintable(err));
+    QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: no action ORQ_NO_SUCH_ACTION in the menus")),
+             qPrintable(err));
   }
 
   void icon_sheet_shows_every_icon()

@@ -21,9 +21,12 @@ QString expected_tooltip(const QString& menu, const QKeySequence& key)
   return text + QLatin1String(" - ") + key.toString(QKeySequence::PortableText);
 }
 
-ORQ_ACTION_ENUM action_of(int value) { return static_cast<ORQ_ACTION_ENUM>(value); }
+ORQ_ACTION_ENUM action_of(int value)
+{
+  return static_cast<ORQ_ACTION_ENUM>(value);
+}
 
-}  // namespace
+} // namespace
 
 class TST_ACTIONS : public QObject {
   Q_OBJECT
@@ -35,7 +38,7 @@ private slots:
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("shortcut");  // "S <key>" for a standard key
+    QTest::addColumn<QString>("shortcut"); // "S <key>" for a standard key
     QTest::addColumn<QString>("statustip");
     // clang-format off
     const struct { const char* name; int value; const char* menu; const char* shortcut; const char* tip; } rows[] = {
@@ -129,7 +132,8 @@ private slots:
     QKeySequence key;
     if (standard) {
       const QMetaEnum keys = QMetaEnum::fromType<QKeySequence::StandardKey>();
-      const auto standard_key = static_cast<QKeySequence::StandardKey>(keys.keyToValue(qPrintable(shortcut.mid(2))));
+      const auto standard_key =
+          static_cast<QKeySequence::StandardKey>(keys.keyToValue(qPrintable(shortcut.mid(2))));
       QCOMPARE(created->shortcuts(), QKeySequence::keyBindings(standard_key));
       key = QKeySequence::keyBindings(standard_key).value(0);
     } else if (!shortcut.isEmpty()) {
@@ -184,7 +188,8 @@ private slots:
     // present name; every other row sits at its alphabetical place.
     QCOMPARE(names.takeAt(ORQ_VANTOR_HELP_ACTION - 1), QStringLiteral("ORQ_VANTOR_HELP_ACTION"));
     QStringList sorted = names;
-    std::sort(sorted.begin(), sorted.end(), [](const QString& a, const QString& b) { return a.toLatin1() < b.toLatin1(); });
+    std::sort(sorted.begin(), sorted.end(),
+              [](const QString& a, const QString& b) { return a.toLatin1() < b.toLatin1(); });
     QCOMPARE(names, sorted);
   }
 
@@ -216,7 +221,8 @@ private slots:
   {
     QTest::addColumn<int>("lookup");
     QTest::addColumn<int>("value");
-    const char* names[] = {"menu text", "status tip", "tool tip", "custom shortcut", "Tcl function", "without symbol"};
+    const char* names[] = {"menu text",       "status tip",   "tool tip",
+                           "custom shortcut", "Tcl function", "without symbol"};
     for (int lookup = 0; lookup < 6; ++lookup) {
       for (int value : {0, 747, 1023})
         QTest::addRow("%s of %d", names[lookup], value) << lookup << value;
@@ -230,12 +236,24 @@ private slots:
     const ORQ_ACTION_ENUM action = action_of(value);
     const QString condition = orq_test_internal_error([&] {
       switch (lookup) {
-      case 0: orq_get_menu_text(action); break;
-      case 1: orq_get_statustip(action); break;
-      case 2: orq_get_tooltip(action); break;
-      case 3: orq_get_custom_shortcut(action); break;
-      case 4: orq_get_tcl_function(action); break;
-      default: orq_get_menu_text_without_symbol(action); break;
+      case 0:
+        orq_get_menu_text(action);
+        break;
+      case 1:
+        orq_get_statustip(action);
+        break;
+      case 2:
+        orq_get_tooltip(action);
+        break;
+      case 3:
+        orq_get_custom_shortcut(action);
+        break;
+      case 4:
+        orq_get_tcl_function(action);
+        break;
+      default:
+        orq_get_menu_text_without_symbol(action);
+        break;
       }
     });
     QCOMPARE(condition, QStringLiteral("The calling function has passed an illegal ORQ_ACTION_ENUM"));
@@ -256,8 +274,8 @@ private slots:
   {
     QTest::addColumn<int>("action");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("ampersands between words") << int(ORQ_ANALYZE_ELABORATE_ACTION)
-                                              << QStringLiteral("Analysis AND Elaboration");
+    QTest::newRow("ampersands between words")
+        << int(ORQ_ANALYZE_ELABORATE_ACTION) << QStringLiteral("Analysis AND Elaboration");
     QTest::newRow("mnemonic and dialog") << int(ORQ_OPEN_PROJECT_ACTION) << QStringLiteral("Open Project");
     QTest::newRow("mnemonic before dots") << int(ORQ_EXPORT_ACTION) << QStringLiteral("Export");
     QTest::newRow("apostrophe kept") << int(ORQ_BIRDS_EYE_VIEW_ACTION) << QStringLiteral("Bird's Eye View");
@@ -290,8 +308,9 @@ private slots:
       }
       if (!created->shortcut().isEmpty()) {
         ++with_shortcut;
-        QVERIFY2(created->toolTip().startsWith(orq_get_menu_text_without_symbol(action) + QLatin1String(" - ")),
-                 qPrintable(created->toolTip()));
+        QVERIFY2(
+            created->toolTip().startsWith(orq_get_menu_text_without_symbol(action) + QLatin1String(" - ")),
+            qPrintable(created->toolTip()));
       }
       with_icon += created->icon().isNull() ? 0 : 1;
       with_tcl += orq_get_tcl_function(action) ? 1 : 0;
@@ -308,9 +327,10 @@ private slots:
     QCOMPARE(with_icon, 340);
     QCOMPARE(with_tcl, 1);
     QCOMPARE(checkable, 1);
-    const QMap<QString, int> sizes{{"SHOW", 75},   {"HIDE", 8},     {"NODE", 54},    {"CREATE", 30}, {"START", 18},
-                                   {"GENERATE", 13}, {"LOCATE", 13}, {"PROJECT", 11}, {"EXPORT", 9},  {"SUPPRESS", 9},
-                                   {"VIEW", 9},    {"CLEAR", 8},    {"INSTANCE", 7}};
+    const QMap<QString, int> sizes{{"SHOW", 75},   {"HIDE", 8},      {"NODE", 54},   {"CREATE", 30},
+                                   {"START", 18},  {"GENERATE", 13}, {"LOCATE", 13}, {"PROJECT", 11},
+                                   {"EXPORT", 9},  {"SUPPRESS", 9},  {"VIEW", 9},    {"CLEAR", 8},
+                                   {"INSTANCE", 7}};
     for (auto it = sizes.begin(); it != sizes.end(); ++it)
       QCOMPARE(groups.value(it.key()), it.value());
   }
@@ -328,7 +348,8 @@ private slots:
       QAction* locate = orq_create_action(action_of(value), &owner);
       QVERIFY2(!locate->icon().isNull(), qPrintable(name));
       const QImage image = locate->icon().pixmap(16, 16).toImage();
-      pictures.insert(qHash(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()))));
+      pictures.insert(
+          qHash(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()))));
     }
     QCOMPARE(count, 13);
     QCOMPARE(pictures.size(), 13);

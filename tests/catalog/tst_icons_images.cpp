@@ -13,7 +13,10 @@
 
 namespace {
 
-ORQ_ICON_ENUM icon_of(int value) { return static_cast<ORQ_ICON_ENUM>(value); }
+ORQ_ICON_ENUM icon_of(int value)
+{
+  return static_cast<ORQ_ICON_ENUM>(value);
+}
 
 int opaque_pixels(const QImage& image)
 {
@@ -24,7 +27,7 @@ int opaque_pixels(const QImage& image)
   return count;
 }
 
-}  // namespace
+} // namespace
 
 class TST_ICONS_IMAGES : public QObject {
   Q_OBJECT
@@ -62,7 +65,8 @@ private slots:
       const QString stem = path.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0);
       const QString name = QStringLiteral("ORQ_%1_ICON").arg(stem.mid(4).toUpper());
       if (path.startsWith(QLatin1String(":/icons/svg/")))
-        QVERIFY2(path.endsWith(QLatin1String(".svg")) && stem.startsWith(QLatin1String("orq_")), qPrintable(path));
+        QVERIFY2(path.endsWith(QLatin1String(".svg")) && stem.startsWith(QLatin1String("orq_")),
+                 qPrintable(path));
       else
         QCOMPARE(path, QStringLiteral(":/icons/flat/orq_status.png"));
       QCOMPARE(int(orq_get_icon_enum(name)), value);
@@ -72,7 +76,8 @@ private slots:
     QCOMPARE(orq_get_icon_file_names(ORQ_ZOOM_TOOL_ICON), QStringList{":/icons/svg/orq_zoom_tool.svg"});
     QCOMPARE(orq_get_icon_file_names(ORQ_GENERIC_FILE_ICON), QStringList{":/icons/svg/orq_generic_file.svg"});
     QVERIFY(orq_get_icon_enum(QStringLiteral("ORQ_GRAY_X_ICON")) == ORQ_GRAY_X_ICON);
-    QVERIFY(orq_get_icon_enum(QStringLiteral("ORQ_TREE_VIEW_FILTER_OPTION_ICON")) == ORQ_TREE_VIEW_FILTER_OPTION_ICON);
+    QVERIFY(orq_get_icon_enum(QStringLiteral("ORQ_TREE_VIEW_FILTER_OPTION_ICON")) ==
+            ORQ_TREE_VIEW_FILTER_OPTION_ICON);
   }
 
   void unknown_icons_are_null_not_errors()
@@ -134,7 +139,8 @@ private slots:
     const QImage mask = made.mask(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_Mono);
     QCOMPARE(bitmap.size(), QSize(32, 32));
     QCOMPARE(mask.size(), bitmap.size());
-    QVERIFY(QFile::exists(orq_get_cursor_file_name(which, false)) && QFile::exists(orq_get_cursor_file_name(which, true)));
+    QVERIFY(QFile::exists(orq_get_cursor_file_name(which, false)) &&
+            QFile::exists(orq_get_cursor_file_name(which, true)));
     // Black pixels must lie inside the mask, or X11 draws them inverted, and
     // some of the cursor must show around the hot spot.
     int black = 0;
@@ -161,7 +167,8 @@ private slots:
       QVERIFY2(!loaded.isNull(), qPrintable(orq_get_pixmap_file_name(pixmap)));
       QVERIFY(orq_get_pixmap_file_name(pixmap).startsWith(QLatin1String(":/pixmaps/orq_")));
     }
-    QCOMPARE(orq_get_pixmap_file_name(ORQ_SPLASH_SCREEN_PIXMAP), QStringLiteral(":/pixmaps/orq_splash_screen.png"));
+    QCOMPARE(orq_get_pixmap_file_name(ORQ_SPLASH_SCREEN_PIXMAP),
+             QStringLiteral(":/pixmaps/orq_splash_screen.png"));
     QCOMPARE(orq_get_pixmap_file_name(ORQ_IP_UPGRADE_SCREENSHOT_PIXMAP),
              QStringLiteral(":/pixmaps/orq_ip_upgrade_screenshot.png"));
     for (ORQ_MOVIE_ENUM movie : {ORQ_IP_RGENWHEEL_MOVIE, ORQ_BUSY_SPINNER_MOVIE}) {
@@ -173,7 +180,8 @@ private slots:
       QTRY_VERIFY(frames.count() >= 3);
       QVERIFY(!animation->currentImage().isNull());
     }
-    QCOMPARE(orq_get_movie_file_name(ORQ_BUSY_SPINNER_MOVIE), QStringLiteral(":/movies/orq_busy_spinner.gif"));
+    QCOMPARE(orq_get_movie_file_name(ORQ_BUSY_SPINNER_MOVIE),
+             QStringLiteral(":/movies/orq_busy_spinner.gif"));
   }
 
   void invalid_cursor_pixmap_and_movie_values_are_internal_errors_data()
@@ -215,7 +223,8 @@ private slots:
       if (image == generic)
         continue;
       ++own;
-      pictures.insert(qHash(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()))));
+      pictures.insert(
+          qHash(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()))));
     }
     QCOMPARE(own, 26);
     QVERIFY(pictures.size() >= 20);

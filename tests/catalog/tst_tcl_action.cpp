@@ -36,7 +36,7 @@ private:
   QTimer m_timer;
 };
 
-}  // namespace
+} // namespace
 
 class TST_TCL_ACTION : public QObject {
   Q_OBJECT
@@ -55,15 +55,15 @@ private slots:
   {
     QFETCH(int, constructor);
     QObject owner;
-    ORQ_TCL_ACTION* action = constructor == 0   ? new ORQ_TCL_ACTION(&owner)
-                             : constructor == 1 ? new ORQ_TCL_ACTION(QStringLiteral("Run"), &owner)
-                                                : new ORQ_TCL_ACTION(orq_get_icon(ORQ_PLAY_ICON),
-                                                                     QStringLiteral("Run"), &owner);
+    ORQ_TCL_ACTION* action =
+        constructor == 0   ? new ORQ_TCL_ACTION(&owner)
+        : constructor == 1 ? new ORQ_TCL_ACTION(QStringLiteral("Run"), &owner)
+                           : new ORQ_TCL_ACTION(orq_get_icon(ORQ_PLAY_ICON), QStringLiteral("Run"), &owner);
     QVERIFY(action->get_tcl_function().empty());
     gen_tcl().set_var(QStringLiteral("orq_answer"), QStringLiteral("none"));
     std::string command = "set ::orq_answer [expr {6 * 7}]";
     action->set_tcl_function(command.c_str());
-    command.assign("set ::orq_answer changed");  // the action keeps its own copy
+    command.assign("set ::orq_answer changed"); // the action keeps its own copy
     action->trigger();
     QCOMPARE(gen_tcl().get_var(QStringLiteral("orq_answer")), QStringLiteral("42"));
     if (constructor > 0)
@@ -88,7 +88,8 @@ private slots:
     action.set_tcl_function("no_such_command 1 2");
     action.trigger();
     QCOMPARE(closer.m_closed, 2);
-    QVERIFY(closer.m_text.startsWith(QLatin1String("Invalid internal command: \ninvalid command name \"no_such_command\"")));
+    QVERIFY(closer.m_text.startsWith(
+        QLatin1String("Invalid internal command: \ninvalid command name \"no_such_command\"")));
 
     action.set_tcl_function("set ::orq_after_failure yes");
     action.trigger();

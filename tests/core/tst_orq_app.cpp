@@ -11,12 +11,12 @@
 
 #include <QComboBox>
 #include <QFontComboBox>
-#include <QLineEdit>
-#include <QStyleFactory>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
 #include <QSpinBox>
+#include <QStyleFactory>
 #include <QStyleOption>
 
 #include <thread>
@@ -69,7 +69,7 @@ QImage render(const std::function<void(QPainter&)>& draw)
   draw(painter);
   return image;
 }
-}  // namespace
+} // namespace
 
 class TST_ORQ_APP : public QObject {
   Q_OBJECT
@@ -92,15 +92,15 @@ private slots:
   void copy_argv_for_qt_data()
   {
     QTest::addColumn<int>("argc");
-    QTest::addColumn<QStringList>("args");  // "<null>" stands for a null entry
+    QTest::addColumn<QStringList>("args"); // "<null>" stands for a null entry
     QTest::addColumn<bool>("null_vector");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("no arguments") << 0 << QStringList{"tool"} << false << QStringList();
     QTest::newRow("null vector") << 2 << QStringList() << true << QStringList();
     QTest::newRow("three arguments") << 3 << QStringList{"tool", "-platform", "offscreen"} << false
                                      << QStringList{"tool", "-platform", "offscreen"};
-    QTest::newRow("null entry before argc") << 3 << QStringList{"tool", "<null>", "lost"} << false
-                                            << QStringList{"tool", "<null>", "<null>"};
+    QTest::newRow("null entry before argc")
+        << 3 << QStringList{"tool", "<null>", "lost"} << false << QStringList{"tool", "<null>", "<null>"};
     QTest::newRow("empty string") << 2 << QStringList{"tool", ""} << false << QStringList{"tool", ""};
   }
 
@@ -130,7 +130,7 @@ private slots:
         QCOMPARE(copy[i], nullptr);
         continue;
       }
-      QVERIFY(copy[i] != argv[size_t(i)]);  // a copy, not the caller's buffer
+      QVERIFY(copy[i] != argv[size_t(i)]); // a copy, not the caller's buffer
       QCOMPARE(QString::fromLocal8Bit(copy[i]), expected.at(i));
     }
     QCOMPARE(copy[argc], nullptr);
@@ -165,7 +165,7 @@ private slots:
     QFETCH(QByteArray, variable);
     QFETCH(QStringList, passed);
     if (!variable.isEmpty())
-      qputenv(variable.constData(), "");  // set, even if empty, is enough
+      qputenv(variable.constData(), ""); // set, even if empty, is enough
     g_recorded.clear();
     const QtMessageHandler before = qInstallMessageHandler(recording_handler);
     const char* argv[] = {"tool", nullptr};
@@ -229,7 +229,8 @@ private slots:
     QFETCH(bool, with_filter);
     QFETCH(bool, changes);
     QWidget form;
-    QComboBox* combo = widget == QLatin1String("font combo") ? new QFontComboBox(&form) : new QComboBox(&form);
+    QComboBox* combo =
+        widget == QLatin1String("font combo") ? new QFontComboBox(&form) : new QComboBox(&form);
     if (combo->count() < 3)
       combo->addItems({QStringLiteral("nand2"), QStringLiteral("nor2"), QStringLiteral("inv")});
     combo->setCurrentIndex(1);
@@ -290,12 +291,13 @@ private slots:
     option.rect = rect;
     option.palette = QApplication::palette();
     option.state = QStyle::State_Enabled | (given_horizontal ? QStyle::State_Horizontal : QStyle::State_None);
-    const QImage ours = render([&](QPainter& p) {
-      style.drawPrimitive(QStyle::PE_IndicatorDockWidgetResizeHandle, &option, &p);
-    });
+    const QImage ours = render(
+        [&](QPainter& p) { style.drawPrimitive(QStyle::PE_IndicatorDockWidgetResizeHandle, &option, &p); });
     QStyleOption splitter = option;
-    splitter.state = QStyle::State_Enabled | (drawn_horizontal ? QStyle::State_Horizontal : QStyle::State_None);
-    const QImage expected = render([&](QPainter& p) { style.drawControl(QStyle::CE_Splitter, &splitter, &p); });
+    splitter.state =
+        QStyle::State_Enabled | (drawn_horizontal ? QStyle::State_Horizontal : QStyle::State_None);
+    const QImage expected =
+        render([&](QPainter& p) { style.drawControl(QStyle::CE_Splitter, &splitter, &p); });
     QStyleOption wrong = option;
     wrong.state = QStyle::State_Enabled | (drawn_horizontal ? QStyle::State_None : QStyle::State_Horizontal);
     const QImage other = render([&](QPainter& p) { style.drawControl(QStyle::CE_Splitter, &wrong, &p); });
@@ -308,9 +310,15 @@ private slots:
     QTest::addColumn<QString>("topic");
     QTest::addColumn<QString>("object_name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("explicit topic") << "SetZoom" << "zoom_dialog" << "SetZoom";
-    QTest::newRow("object name") << "" << "zoom_dialog" << "zoom_dialog";
-    QTest::newRow("class name") << "" << "" << "ORQ_DIALOG";
+    QTest::newRow("explicit topic") << "SetZoom"
+                                    << "zoom_dialog"
+                                    << "SetZoom";
+    QTest::newRow("object name") << ""
+                                 << "zoom_dialog"
+                                 << "zoom_dialog";
+    QTest::newRow("class name") << ""
+                                << ""
+                                << "ORQ_DIALOG";
   }
 
   void f1_asks_the_help_service_for_the_topic()
@@ -326,7 +334,7 @@ private slots:
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     QTest::keyClick(&dialog, Qt::Key_F1);
-    QTest::keyClick(&dialog, Qt::Key_F2);  // other keys are not help
+    QTest::keyClick(&dialog, Qt::Key_F2); // other keys are not help
     gen_set_help(nullptr);
     QCOMPARE(help.topics, QStringList{expected});
     QCOMPARE(help.contexts.value(0), &dialog);

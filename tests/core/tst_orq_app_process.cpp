@@ -56,7 +56,7 @@ QByteArray read_all(const QString& path)
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-}  // namespace
+} // namespace
 
 class TST_ORQ_APP_PROCESS : public QObject {
   Q_OBJECT
@@ -66,8 +66,8 @@ private slots:
   void event_log_of_a_run_without_logged_events_is_an_empty_array()
   {
     QTemporaryDir dir;
-    const CHILD child = run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("0")}, QByteArray(),
-                                   {QStringLiteral("VANTOR_EVENT_LOGGING=")});
+    const CHILD child = run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("0")},
+                                   QByteArray(), {QStringLiteral("VANTOR_EVENT_LOGGING=")});
     QCOMPARE(child.exit_code, 0);
     const QString log = the_event_log(dir.path());
     QVERIFY2(!log.isEmpty(), qPrintable(QDir(dir.path()).entryList().join(QLatin1Char(' '))));
@@ -87,8 +87,8 @@ private slots:
   void event_log_records_input_as_one_json_array()
   {
     QTemporaryDir dir;
-    const CHILD child = run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("2")}, QByteArray(),
-                                   {QStringLiteral("VANTOR_EVENT_LOGGING=1")});
+    const CHILD child = run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("2")},
+                                   QByteArray(), {QStringLiteral("VANTOR_EVENT_LOGGING=1")});
     QCOMPARE(child.exit_code, 0);
     QJsonParseError error{};
     const QJsonDocument doc = QJsonDocument::fromJson(read_all(the_event_log(dir.path())), &error);
@@ -108,7 +108,8 @@ private slots:
       const QString type = event.value(QStringLiteral("eventTypeString")).toString();
       seen[type] += 1;
       const QJsonObject object = record.value(QStringLiteral("object")).toObject();
-      if (type == QLatin1String("KeyPress") && object.value(QStringLiteral("objectName")) == QLatin1String("name_edit"))
+      if (type == QLatin1String("KeyPress") &&
+          object.value(QStringLiteral("objectName")) == QLatin1String("name_edit"))
         key_press = record;
       if (type == QLatin1String("MouseButtonPress") && key_press.isEmpty() == false && mouse_press.isEmpty())
         mouse_press = record;
@@ -118,12 +119,13 @@ private slots:
     QCOMPARE(seen.value(QStringLiteral("MouseButtonPress")) >= 2, true);
     QCOMPARE(seen.value(QStringLiteral("MouseButtonRelease")) >= 2, true);
     for (const QString& type : seen.keys())
-      QVERIFY2(QStringList({"ApplicationStateChange", "ContextMenu", "KeyPress", "KeyRelease", "MouseButtonDblClick",
-                            "MouseButtonPress", "MouseButtonRelease", "MouseMove", "ShortcutOverride", "Wheel",
-                            "NonClientAreaMouseMove", "NonClientAreaMouseButtonPress",
-                            "NonClientAreaMouseButtonRelease", "NonClientAreaMouseButtonDblClick"})
-                   .contains(type),
-               qPrintable(type));
+      QVERIFY2(
+          QStringList({"ApplicationStateChange", "ContextMenu", "KeyPress", "KeyRelease",
+                       "MouseButtonDblClick", "MouseButtonPress", "MouseButtonRelease", "MouseMove",
+                       "ShortcutOverride", "Wheel", "NonClientAreaMouseMove", "NonClientAreaMouseButtonPress",
+                       "NonClientAreaMouseButtonRelease", "NonClientAreaMouseButtonDblClick"})
+              .contains(type),
+          qPrintable(type));
 
     const QJsonObject key = key_press.value(QStringLiteral("event")).toObject();
     QCOMPARE(key.value(QStringLiteral("eventType")).toInt(), 6);
@@ -150,8 +152,9 @@ private slots:
   void event_record_that_cannot_be_written_is_skipped_and_logging_goes_on()
   {
     QTemporaryDir dir;
-    const CHILD child = run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("1"), QStringLiteral("block")},
-                                   QByteArray(), {QStringLiteral("VANTOR_EVENT_LOGGING=1")});
+    const CHILD child =
+        run_helper(dir.path(), {QStringLiteral("event-log"), QStringLiteral("1"), QStringLiteral("block")},
+                   QByteArray(), {QStringLiteral("VANTOR_EVENT_LOGGING=1")});
     QCOMPARE(child.exit_code, 0);
     QJsonParseError error{};
     const QJsonDocument doc = QJsonDocument::fromJson(read_all(the_event_log(dir.path())), &error);
@@ -171,16 +174,18 @@ private slots:
     QTest::addColumn<int>("threads");
     QTest::addColumn<QByteArray>("ini");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("8/16, cap 2, no hyperthreading") << 8 << 2 << QByteArray("orq_max_kpx_concurrency=2\n")
-                                                    << "cores=2 logical=2";
+    QTest::newRow("8/16, cap 2, no hyperthreading")
+        << 8 << 2 << QByteArray("orq_max_kpx_concurrency=2\n") << "cores=2 logical=2";
     QTest::newRow("8/16, default cap") << 8 << 2 << QByteArray() << "cores=4 logical=4";
-    QTest::newRow("8/16, cap 12, no hyperthreading") << 8 << 2 << QByteArray("orq_max_kpx_concurrency=12\n")
-                                                     << "cores=8 logical=12";
+    QTest::newRow("8/16, cap 12, no hyperthreading")
+        << 8 << 2 << QByteArray("orq_max_kpx_concurrency=12\n") << "cores=8 logical=12";
     QTest::newRow("8/16, cap 12, hyperthreading")
-        << 8 << 2 << QByteArray("orq_max_kpx_concurrency=12\nenable_vantor_hyperthreading=on\n") << "cores=8 logical=12";
-    QTest::newRow("3 cores, cap 8") << 3 << 1 << QByteArray("orq_max_kpx_concurrency=8\n") << "cores=3 logical=3";
-    QTest::newRow("malformed cap falls back to 4") << 8 << 2 << QByteArray("orq_max_kpx_concurrency=lots\n")
-                                                   << "cores=4 logical=4";
+        << 8 << 2 << QByteArray("orq_max_kpx_concurrency=12\nenable_vantor_hyperthreading=on\n")
+        << "cores=8 logical=12";
+    QTest::newRow("3 cores, cap 8") << 3 << 1 << QByteArray("orq_max_kpx_concurrency=8\n")
+                                    << "cores=3 logical=3";
+    QTest::newRow("malformed cap falls back to 4")
+        << 8 << 2 << QByteArray("orq_max_kpx_concurrency=lots\n") << "cores=4 logical=4";
   }
 
   void processor_manager_gets_the_capped_counts()
@@ -207,9 +212,10 @@ private slots:
     QCOMPARE(child.exit_code, 0);
     QCOMPARE(child.out.trimmed(), expected);
     if (ini.contains("lots"))
-      QVERIFY2(child.err.contains(QStringLiteral("vantor.ini:1: orq_max_kpx_concurrency=lots is not an integer; "
-                                                 "the default 4 is used")),
-               qPrintable(child.err));
+      QVERIFY2(
+          child.err.contains(QStringLiteral("vantor.ini:1: orq_max_kpx_concurrency=lots is not an integer; "
+                                            "the default 4 is used")),
+          qPrintable(child.err));
   }
 
   void internal_errors_report_on_standard_error_and_abort_data()
@@ -217,16 +223,20 @@ private slots:
     QTest::addColumn<QString>("mode");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("failed precondition")
-        << "require" << QStringList{QStringLiteral("Internal error in module ORQ (orq_test_app.cpp:"),
-                                    QStringLiteral("):\nm_view != NULL")};
+        << "require"
+        << QStringList{QStringLiteral("Internal error in module ORQ (orq_test_app.cpp:"),
+                       QStringLiteral("):\nm_view != NULL")};
     QTest::newRow("connection that failed")
         << "bad-connect"
-        << QStringList{QStringLiteral("Internal error in module ORQ (orq_safe_connect.cpp:"),
-                       QStringLiteral("Error connecting SIGNAL QObject::no_such_signal(int) to SLOT QObject::1deleteLater()"),
-                       QStringLiteral("\tSIGNAL signature is invalid and maps to QObject::no_such_signal(int)"),
-                       QStringLiteral("\tConnect location: tool_window.cpp: 77")};
+        << QStringList{
+               QStringLiteral("Internal error in module ORQ (orq_safe_connect.cpp:"),
+               QStringLiteral(
+                   "Error connecting SIGNAL QObject::no_such_signal(int) to SLOT QObject::1deleteLater()"),
+               QStringLiteral("\tSIGNAL signature is invalid and maps to QObject::no_such_signal(int)"),
+               QStringLiteral("\tConnect location: tool_window.cpp: 77")};
     QTest::newRow("theme before the application exists")
-        << "theme-before-app" << QStringList{QStringLiteral("(orq_theme.cpp:"), QStringLiteral("):\ngdi_mgr != NULL")};
+        << "theme-before-app"
+        << QStringList{QStringLiteral("(orq_theme.cpp:"), QStringLiteral("):\ngdi_mgr != NULL")};
     QTest::newRow("theme after the application ended")
         << "theme-after-app"
         << QStringList{QStringLiteral("(orq_gdi_manager.cpp:"),
@@ -235,9 +245,10 @@ private slots:
         << "illegal-action"
         << QStringList{QStringLiteral("Internal error in module ORQ (orq_actions.cpp:"),
                        QStringLiteral("):\nThe calling function has passed an illegal ORQ_ACTION_ENUM")};
-    QTest::newRow("fatal Qt message") << "qt-fatal"
-                                      << QStringList{QStringLiteral("Internal error in module ORQ (orq_message_handler.cpp:"),
-                                                     QStringLiteral("the display connection is gone")};
+    QTest::newRow("fatal Qt message")
+        << "qt-fatal"
+        << QStringList{QStringLiteral("Internal error in module ORQ (orq_message_handler.cpp:"),
+                       QStringLiteral("the display connection is gone")};
   }
 
   void internal_errors_report_on_standard_error_and_abort()
@@ -254,17 +265,19 @@ private slots:
   void qt_messages_are_printed_and_mirrored_into_the_message_window()
   {
     QTemporaryDir dir;
-    const CHILD child = run_helper(dir.path(), {QStringLiteral("message-window")},
-                                   QByteArray("qt_msg=on\nqt_msg_wnd=on\n"));
+    const CHILD child =
+        run_helper(dir.path(), {QStringLiteral("message-window")}, QByteArray("qt_msg=on\nqt_msg_wnd=on\n"));
     QCOMPARE(child.exit_code, 0);
     QVERIFY2(child.err.contains(QStringLiteral("qWarning: first message\n")), qPrintable(child.err));
     QVERIFY(child.err.contains(QStringLiteral("qCritical: from a worker thread\n")));
     QVERIFY2(child.out.contains(QStringLiteral("title=qt_msg for orq_test_app\n")), qPrintable(child.out));
     QVERIFY(child.out.contains(QStringLiteral("visible=1\n")));
     const QString text = child.out.section(QStringLiteral("text="), 1);
-    QVERIFY2(text.contains(QRegularExpression(QStringLiteral("qWarning: first message\\(\\d+ ms elapsed\\)"))),
-             qPrintable(text));
-    QVERIFY2(text.contains(QRegularExpression(QStringLiteral("qCritical: from a worker thread\\(\\d+ ms elapsed\\)"))),
+    QVERIFY2(
+        text.contains(QRegularExpression(QStringLiteral("qWarning: first message\\(\\d+ ms elapsed\\)"))),
+        qPrintable(text));
+    QVERIFY2(text.contains(
+                 QRegularExpression(QStringLiteral("qCritical: from a worker thread\\(\\d+ ms elapsed\\)"))),
              qPrintable(text));
   }
 
@@ -273,8 +286,9 @@ private slots:
     QTemporaryDir dir;
     const CHILD child = run_helper(dir.path(), {QStringLiteral("message-window")},
                                    QByteArray("qt_msg=on\nqt_msg_with_source=on\n"));
-    QCOMPARE(child.exit_code, 3);  // no window without qt_msg_wnd
-    QVERIFY2(child.err.contains(QRegularExpression(QStringLiteral("qWarning \\(.*orq_test_app\\.cpp:\\d+\\): first message\n"))),
+    QCOMPARE(child.exit_code, 3); // no window without qt_msg_wnd
+    QVERIFY2(child.err.contains(QRegularExpression(
+                 QStringLiteral("qWarning \\(.*orq_test_app\\.cpp:\\d+\\): first message\n"))),
              qPrintable(child.err));
   }
 

@@ -55,7 +55,7 @@ int run(ORQ_APP& app, const QStringList& args)
         const QString log = filter->get_log_file_name();
         const QString aside = log + QStringLiteral(".aside");
         QFile::rename(log, aside);
-        QDir().mkdir(log);  // a directory cannot be opened for appending
+        QDir().mkdir(log); // a directory cannot be opened for appending
         QTest::keyClick(edit, Qt::Key_B);
         QDir().rmdir(log);
         QFile::rename(aside, log);
@@ -65,14 +65,15 @@ int run(ORQ_APP& app, const QStringList& args)
     return 0;
   }
   if (mode == QLatin1String("processors")) {
-    std::printf("cores=%d logical=%d\n", gen_processor_mgr().cores(), gen_processor_mgr().logical_processors());
+    std::printf("cores=%d logical=%d\n", gen_processor_mgr().cores(),
+                gen_processor_mgr().logical_processors());
     return 0;
   }
   if (mode == QLatin1String("bad-connect")) {
     QObject sender;
     QObject receiver;
-    orq_safe_connect(&sender, SIGNAL(no_such_signal(int)), &receiver, SLOT(deleteLater()),
-                     Qt::AutoConnection, "tool_window.cpp", 77);
+    orq_safe_connect(&sender, SIGNAL(no_such_signal(int)), &receiver, SLOT(deleteLater()), Qt::AutoConnection,
+                     "tool_window.cpp", 77);
     return 0;
   }
   if (mode == QLatin1String("require")) {
@@ -120,7 +121,7 @@ int run(ORQ_APP& app, const QStringList& args)
   std::fprintf(stderr, "orq_test_app: unknown mode %s\n", qPrintable(mode));
   return 2;
 }
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {
