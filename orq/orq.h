@@ -21,3 +21,4 @@
 #include "orq_safe_connect.h"
 #include "orq_tcl_action.h"
 #include "orq_theme_options_page.h"
+#include "orq_tree_model.h"
