@@ -207,7 +207,7 @@ bool ORQ_TREE_FILTER_PROXY_MODEL::filterAcceptsRow(int source_row, const QModelI
 {
   CACHE& cache = *m_cache;
   const std::uint32_t block =
-      cache.answers_for({filterRegularExpression(), filterKeyColumn(), filterRole(), filter_column_list})
+      m_resetting || cache.answers_for({filterRegularExpression(), filterKeyColumn(), filterRole(), filter_column_list})
           ? cache.block_of(source_parent)
           : CACHE::NONE;
   if (block == CACHE::NONE || source_row < 0 || std::uint32_t(source_row) >= cache.block_size(block))
@@ -215,7 +215,8 @@ bool ORQ_TREE_FILTER_PROXY_MODEL::filterAcceptsRow(int source_row, const QModelI
   const std::uint8_t flags = cache.flags(cache.slot(block, source_row));
   const bool top_level = block == 0;
   if ((flags & CACHE::SELF) || (include_invisible_root_child && top_level)) {
-    ++search_result_count;
+    if (!m_resetting)
+      ++search_result_count;
     return true;
   }
   return (include_child && (flags & CACHE::ABOVE)) || (flags & CACHE::BELOW);
@@ -224,17 +225,19 @@ bool ORQ_TREE_FILTER_PROXY_MODEL::filterAcceptsRow(int source_row, const QModelI
 // The base class re-filters in place: every run of rows that changes is
 // removed or inserted on its own, and each of those walks all persistent
 // indexes. An expanded view over a large tree holds one per expanded row,
-// which makes one keystroke quadratic. Such views are reset first: the
-// in-place walk then evaluates exactly the rows it would have (the count
-// stays what it is by the rule), at the cost of the views' expansion, which
-// tools restore on filter_done.
+// which makes one keystroke quadratic. Such views are reset first, which
+// also drops the base class's mappings; what the views map again during the
+// reset gets the new answers and is counted when the expression is stored
+// right after, as if the reset had followed it.
 void ORQ_TREE_FILTER_PROXY_MODEL::refilter(const QRegularExpression& expression)
 {
   if (sourceModel()) {
     m_cache->compute({expression, filterKeyColumn(), filterRole(), filter_column_list});
     if (m_cache->slot_count() >= reset_rows && persistentIndexList().size() >= reset_persistent) {
+      m_resetting = true;
       beginResetModel();
       endResetModel();
+      m_resetting = false;
     }
   }
   setFilterRegularExpression(expression);

@@ -76,4 +76,5 @@ private:
   void drop_kept_answers();
 
   std::unique_ptr<ORQ_TREE_FILTER_CACHE> m_cache;
+  bool m_resetting = false;
 };

@@ -1,0 +1,255 @@
+// Filter-as-you-type on a design hierarchy shown fully expanded in a tree
+// view: ORQ_TREE_FILTER_PROXY_MODEL against QSortFilterProxyModel with
+// recursive filtering, on the same model and the same kind of view. Each
+// keystroke is timed from the filter call until the view has expanded and
+// laid out what is left. Both are set to the same rule (a row stays when it
+// or a row below it matches, any column) and their visible rows are checked
+// identical after every keystroke. Qt's proxy runs only at the sizes where
+// a keystroke finishes within the time limit.
+//   bench_tree_filter [rows ...]        default: 2000 5000 10000 30000 1000000
+#include <orq.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+
+#include <algorithm>
+#include <cstdio>
+#include <malloc.h>
+#include <memory>
+
+namespace {
+
+const char* const cells[] = {"NAND2X1", "NOR2X1", "INVX2", "DFFRX2", "AOI21X1", "OAI22X1", "MUX2X1",
+                             "XOR2X1",  "BUFX4",  "SDFFX1", "AND3X1", "CLKBUFX8", "LATCHX1", "FILL4"};
+const char* const modules[] = {"alu", "fifo", "regfile", "decoder", "lsu", "mmu", "cache", "dma", "uart",
+                               "spi", "pll_ctl", "crossbar", "fpu", "bpu", "csr", "irq"};
+
+// A top cell, partitions, modules and sub-modules with tens of children
+// each, and most rows leaf cells under the lowest modules.
+void fill(ORQ_TREE_MODEL& model, int rows)
+{
+  QRandomGenerator random(11);
+  int made = 0;
+  auto row = [&](const QString& name, const QString& cell) {
+    ++made;
+    return QList<QStandardItem*>{new QStandardItem(name), new QStandardItem(cell)};
+  };
+  QList<QStandardItem*> top = row(QStringLiteral("chip_top"), QStringLiteral("CHIP_TOP"));
+  const int leaves_per_module = 400;
+  const int modules_needed = std::max(1, rows / (leaves_per_module + 1));
+  const int partitions = std::max(1, int(std::sqrt(double(modules_needed)) / 2));
+  QList<QStandardItem*> lowest;
+  for (int p = 0; p < partitions && made < rows; ++p) {
+    QList<QStandardItem*> partition = row(QStringLiteral("u_part%1").arg(p), QStringLiteral("PARTITION"));
+    top.first()->appendRow(partition);
+    const int children = (modules_needed + partitions - 1) / partitions;
+    for (int m = 0; m < children && made < rows; ++m) {
+      const QString kind = QLatin1String(modules[random.bounded(int(std::size(modules)))]);
+      QList<QStandardItem*> module =
+          row(QStringLiteral("u_%1_%2").arg(kind).arg(m), kind.toUpper() + QStringLiteral("_BLK"));
+      partition.first()->appendRow(module);
+      lowest << module.first();
+    }
+  }
+  for (QStandardItem* module : lowest) {
+    QList<QList<QStandardItem*>> leaves;
+    for (int i = 0; i < leaves_per_module && made < rows; ++i) {
+      const QString cell = QLatin1String(cells[random.bounded(int(std::size(cells)))]);
+      leaves << row(QStringLiteral("i_%1_%2").arg(cell.left(3).toLower()).arg(i), cell);
+    }
+    for (const auto& leaf : leaves)
+      module->appendRow(leaf);
+  }
+  model.appendRow(top);
+}
+
+// Walks what a view shows, asking for rows only where there are children,
+// as views do (the base class maps every parent it is asked about).
+int visible_rows(const QAbstractItemModel& model, const QModelIndex& parent = {})
+{
+  int count = 0;
+  for (int row = 0; row < model.rowCount(parent); ++row) {
+    const QModelIndex index = model.index(row, 0, parent);
+    count += 1 + (model.hasChildren(index) ? visible_rows(model, index) : 0);
+  }
+  return count;
+}
+
+class EXPRESSION_PROXY : public ORQ_TREE_FILTER_PROXY_MODEL {
+public:
+  QRegularExpression expression(const QString& text) { return process_keyword_expression(text.trimmed()); }
+};
+
+const QStringList typing{QStringLiteral("u"),       QStringLiteral("u_"),      QStringLiteral("u_a"),
+                         QStringLiteral("u_al"),    QStringLiteral("u_alu"),   QStringLiteral("u_alu_1"),
+                         QStringLiteral("u_alu_"),  QStringLiteral("u_alu"),   QStringLiteral("u_al"),
+                         QStringLiteral("n"),       QStringLiteral("na"),      QStringLiteral("nan"),
+                         QStringLiteral("nand"),    QStringLiteral("nand2"),   QStringLiteral("nand"),
+                         QStringLiteral("dff"),     QStringLiteral("dffr*"),   QStringLiteral("i_dff 12"),
+                         QStringLiteral("")};
+
+struct RUN {
+  std::vector<double> ms;
+  std::vector<int> visible;
+  bool finished = true;
+};
+
+double median(std::vector<double> values)
+{
+  std::sort(values.begin(), values.end());
+  return values.empty() ? 0.0 : values[values.size() / 2];
+}
+
+void settle(QTreeView& view)
+{
+  view.expandAll();
+  QCoreApplication::processEvents();
+}
+
+RUN run_ours(int rows)
+{
+  ORQ_TREE_FILTER_MODEL model;
+  fill(model, rows);
+  auto* proxy = new EXPRESSION_PROXY;
+  proxy->setParent(&model);
+  proxy->setSourceModel(&model);
+  model.set_filter_model(proxy);
+  proxy->setFilterKeyColumn(-1);
+  model.set_include_child(false);
+  QTreeView view;
+  view.setUniformRowHeights(true);
+  view.setModel(proxy);
+  view.resize(600, 800);
+  view.show();
+  settle(view);
+  RUN run;
+  for (const QString& text : typing) {
+    QElapsedTimer timer;
+    timer.start();
+    proxy->start_filter(text, false, true);
+    const double f = double(timer.nsecsElapsed()) / 1e6;
+    view.expandAll();
+    const double e = double(timer.nsecsElapsed()) / 1e6;
+    QCoreApplication::processEvents();
+    if (qEnvironmentVariableIsSet("BENCH_STAGES"))
+      std::fprintf(stderr, "%-10s filter %.1f expand %.1f events %.1f\n", qPrintable(text), f, e - f,
+                   double(timer.nsecsElapsed()) / 1e6 - e);
+    run.ms.push_back(double(timer.nsecsElapsed()) / 1e6);
+    run.visible.push_back(visible_rows(*proxy));
+  }
+  return run;
+}
+
+RUN run_qt(int rows, double limit_ms)
+{
+  ORQ_TREE_FILTER_MODEL model;
+  fill(model, rows);
+  EXPRESSION_PROXY parser;
+  QSortFilterProxyModel proxy;
+  proxy.setRecursiveFilteringEnabled(true);
+  proxy.setFilterKeyColumn(-1);
+  proxy.setSourceModel(&model);
+  QTreeView view;
+  view.setUniformRowHeights(true);
+  view.setModel(&proxy);
+  view.resize(600, 800);
+  view.show();
+  settle(view);
+  RUN run;
+  for (const QString& text : typing) {
+    QElapsedTimer timer;
+    timer.start();
+    proxy.setFilterRegularExpression(parser.expression(text));
+    settle(view);
+    run.ms.push_back(double(timer.nsecsElapsed()) / 1e6);
+    run.visible.push_back(visible_rows(proxy));
+    if (run.ms.back() > limit_ms) {
+      run.finished = false;
+      break;
+    }
+  }
+  return run;
+}
+
+std::size_t heap_in_use()
+{
+  return mallinfo2().uordblks;
+}
+
+// The proxy's own memory with every row mapped (empty filter, all rows
+// visible): its kept answers and the base class's mappings.
+void memory(int rows)
+{
+  ORQ_TREE_FILTER_MODEL model;
+  fill(model, rows);
+  const std::size_t before = heap_in_use();
+  model.create_filter_model(0);
+  ORQ_TREE_FILTER_PROXY_MODEL* proxy = model.get_filter_model();
+  model.insert_filter_column(0);
+  model.insert_filter_column(1);
+  proxy->start_filter(QStringLiteral("u_alu"), false, true);
+  proxy->start_filter(QStringLiteral("nand"), false, true);
+  const std::size_t kept = heap_in_use();
+  proxy->start_filter(QString(), false, true);
+  visible_rows(*proxy);
+  const std::size_t mapped = heap_in_use();
+  std::printf("memory at %d rows: kept answers %.2f bytes/row, with every row mapped %.2f bytes/row "
+              "(the base class's mappings %.2f)\n",
+              rows, double(kept - before) / rows, double(mapped - before) / rows, double(mapped - kept) / rows);
+  delete proxy;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+  qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+  QApplication app(argc, argv);
+  QList<int> sizes;
+  for (int i = 1; i < argc; ++i)
+    sizes << QString::fromLocal8Bit(argv[i]).toInt();
+  if (sizes.isEmpty())
+    sizes = {2000, 5000, 10000, 30000, 1000000};
+  const double limit_ms = 20000;
+  std::printf("%9s | %-28s | %-34s | %s\n", "rows", "ORQ median / max per key (ms)", "Qt recursive median / max (ms)",
+              "ratio");
+  bool qt_gave_up = false;
+  for (const int rows : sizes) {
+    const RUN ours = run_ours(rows);
+    RUN qt;
+    // Beyond this Qt's proxy needs hours for the first keystroke.
+    if (rows > 100000)
+      qt_gave_up = true;
+    if (!qt_gave_up)
+      qt = run_qt(rows, limit_ms);
+    const double ours_median = median(ours.ms);
+    const double ours_max = *std::max_element(ours.ms.begin(), ours.ms.end());
+    if (!qt_gave_up && qt.finished) {
+      if (qt.visible != ours.visible) {
+        std::printf("visible rows differ at %d rows\n", rows);
+        return 1;
+      }
+      const double qt_median = median(qt.ms);
+      std::printf("%9d | %12.1f / %-13.1f | %14.1f / %-17.1f | %.0fx\n", rows, ours_median, ours_max, qt_median,
+                  *std::max_element(qt.ms.begin(), qt.ms.end()), qt_median / ours_median);
+    } else {
+      if (!qt_gave_up)
+        std::printf("%9d | %12.1f / %-13.1f | gave up: one key took %.0f s %-5s|\n", rows, ours_median, ours_max,
+                    qt.ms.empty() ? 0.0 : qt.ms.back() / 1000, "");
+      else
+        std::printf("%9d | %12.1f / %-13.1f | %-34s |\n", rows, ours_median, ours_max, "not run");
+      qt_gave_up = true;
+    }
+    if (rows == sizes.last()) {
+      std::printf("\nper keystroke at %d rows (ms, visible rows):\n", rows);
+      for (std::size_t k = 0; k < ours.ms.size(); ++k)
+        std::printf("  %-10s %8.1f %9d\n", qPrintable(QStringLiteral("'%1'").arg(typing.at(int(k)))), ours.ms[k],
+                    ours.visible[k]);
+    }
+  }
+  memory(sizes.last());
+  return 0;
+}
