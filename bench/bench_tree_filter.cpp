@@ -7,11 +7,12 @@
 // identical after every keystroke. Qt's proxy runs only at the sizes where
 // a keystroke finishes within the time limit.
 //   bench_tree_filter [rows ...]        default: 2000 5000 10000 30000 1000000
+#include "design_hierarchy.h"
+
 #include <orq.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QRandomGenerator>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
@@ -21,50 +22,6 @@
 #include <memory>
 
 namespace {
-
-const char* const cells[] = {"NAND2X1", "NOR2X1", "INVX2", "DFFRX2", "AOI21X1", "OAI22X1", "MUX2X1",
-                             "XOR2X1",  "BUFX4",  "SDFFX1", "AND3X1", "CLKBUFX8", "LATCHX1", "FILL4"};
-const char* const modules[] = {"alu", "fifo", "regfile", "decoder", "lsu", "mmu", "cache", "dma", "uart",
-                               "spi", "pll_ctl", "crossbar", "fpu", "bpu", "csr", "irq"};
-
-// A top cell, partitions, modules and sub-modules with tens of children
-// each, and most rows leaf cells under the lowest modules.
-void fill(ORQ_TREE_MODEL& model, int rows)
-{
-  QRandomGenerator random(11);
-  int made = 0;
-  auto row = [&](const QString& name, const QString& cell) {
-    ++made;
-    return QList<QStandardItem*>{new QStandardItem(name), new QStandardItem(cell)};
-  };
-  QList<QStandardItem*> top = row(QStringLiteral("chip_top"), QStringLiteral("CHIP_TOP"));
-  const int leaves_per_module = 400;
-  const int modules_needed = std::max(1, rows / (leaves_per_module + 1));
-  const int partitions = std::max(1, int(std::sqrt(double(modules_needed)) / 2));
-  QList<QStandardItem*> lowest;
-  for (int p = 0; p < partitions && made < rows; ++p) {
-    QList<QStandardItem*> partition = row(QStringLiteral("u_part%1").arg(p), QStringLiteral("PARTITION"));
-    top.first()->appendRow(partition);
-    const int children = (modules_needed + partitions - 1) / partitions;
-    for (int m = 0; m < children && made < rows; ++m) {
-      const QString kind = QLatin1String(modules[random.bounded(int(std::size(modules)))]);
-      QList<QStandardItem*> module =
-          row(QStringLiteral("u_%1_%2").arg(kind).arg(m), kind.toUpper() + QStringLiteral("_BLK"));
-      partition.first()->appendRow(module);
-      lowest << module.first();
-    }
-  }
-  for (QStandardItem* module : lowest) {
-    QList<QList<QStandardItem*>> leaves;
-    for (int i = 0; i < leaves_per_module && made < rows; ++i) {
-      const QString cell = QLatin1String(cells[random.bounded(int(std::size(cells)))]);
-      leaves << row(QStringLiteral("i_%1_%2").arg(cell.left(3).toLower()).arg(i), cell);
-    }
-    for (const auto& leaf : leaves)
-      module->appendRow(leaf);
-  }
-  model.appendRow(top);
-}
 
 // Walks what a view shows, asking for rows only where there are children,
 // as views do (the base class maps every parent it is asked about).
@@ -112,7 +69,7 @@ void settle(QTreeView& view)
 RUN run_ours(int rows)
 {
   ORQ_TREE_FILTER_MODEL model;
-  fill(model, rows);
+  fill_design_hierarchy(model, rows, 11);
   auto* proxy = new EXPRESSION_PROXY;
   proxy->setParent(&model);
   proxy->setSourceModel(&model);
@@ -130,13 +87,7 @@ RUN run_ours(int rows)
     QElapsedTimer timer;
     timer.start();
     proxy->start_filter(text, false, true);
-    const double f = double(timer.nsecsElapsed()) / 1e6;
-    view.expandAll();
-    const double e = double(timer.nsecsElapsed()) / 1e6;
-    QCoreApplication::processEvents();
-    if (qEnvironmentVariableIsSet("BENCH_STAGES"))
-      std::fprintf(stderr, "%-10s filter %.1f expand %.1f events %.1f\n", qPrintable(text), f, e - f,
-                   double(timer.nsecsElapsed()) / 1e6 - e);
+    settle(view);
     run.ms.push_back(double(timer.nsecsElapsed()) / 1e6);
     run.visible.push_back(visible_rows(*proxy));
   }
@@ -146,7 +97,7 @@ RUN run_ours(int rows)
 RUN run_qt(int rows, double limit_ms)
 {
   ORQ_TREE_FILTER_MODEL model;
-  fill(model, rows);
+  fill_design_hierarchy(model, rows, 11);
   EXPRESSION_PROXY parser;
   QSortFilterProxyModel proxy;
   proxy.setRecursiveFilteringEnabled(true);
@@ -184,7 +135,7 @@ std::size_t heap_in_use()
 void memory(int rows)
 {
   ORQ_TREE_FILTER_MODEL model;
-  fill(model, rows);
+  fill_design_hierarchy(model, rows, 11);
   const std::size_t before = heap_in_use();
   model.create_filter_model(0);
   ORQ_TREE_FILTER_PROXY_MODEL* proxy = model.get_filter_model();

@@ -1,6 +1,7 @@
 #include "floorplan_window.h"
 
 #include "floorplan_widget.h"
+#include "hierarchy_panel.h"
 
 #include <orq.h>
 
@@ -14,6 +15,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
@@ -62,7 +64,7 @@ private:
 };
 } // namespace
 
-FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count)
+FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows)
     : m_view(new FLOORPLAN_WIDGET(this))
     , m_hover(new QLabel(this))
     , m_seed(seed)
@@ -83,6 +85,18 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count)
                                                  .arg(tcl_version),
                                              this));
   m_hover->setText(QStringLiteral("Ready"));
+  if (hierarchy_rows > 0) {
+    // A plain dock for now; the design's instances, filtered as one types.
+    auto* dock = new QDockWidget(QStringLiteral("Design Hierarchy"), this);
+    dock->setObjectName(QStringLiteral("hierarchy_dock"));
+    m_hierarchy = new HIERARCHY_PANEL(hierarchy_rows, seed, dock);
+    dock->setWidget(m_hierarchy);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    auto* count = new QLabel(m_hierarchy->status_text(), this);
+    count->setObjectName(QStringLiteral("hierarchy_status"));
+    statusBar()->addPermanentWidget(count);
+    connect(m_hierarchy, &HIERARCHY_PANEL::status_changed, count, &QLabel::setText);
+  }
   register_tcl_commands();
   orq_safe_connect(m_view, SIGNAL(block_hovered(QString)), m_hover, SLOT(setText(QString)),
                    Qt::AutoConnection, __FILE__, __LINE__);
@@ -117,6 +131,11 @@ unsigned FLOORPLAN_WINDOW::seed() const
 QString FLOORPLAN_WINDOW::status_text() const
 {
   return m_hover->text();
+}
+
+HIERARCHY_PANEL* FLOORPLAN_WINDOW::hierarchy_panel() const
+{
+  return m_hierarchy;
 }
 
 void FLOORPLAN_WINDOW::set_seed(unsigned seed)
@@ -263,7 +282,7 @@ void FLOORPLAN_WINDOW::restore_geometry()
   const QByteArray geometry = gen_settings().value(k_settings_key, QStringLiteral("geometry")).toByteArray();
   // restoreGeometry refuses data it cannot read; the default size stands then.
   if (geometry.isEmpty() || !restoreGeometry(geometry))
-    resize(1100, 760);
+    resize(1280, 800);
 }
 
 void FLOORPLAN_WINDOW::closeEvent(QCloseEvent* event)

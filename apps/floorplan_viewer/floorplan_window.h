@@ -7,6 +7,7 @@
 #include <QList>
 
 class FLOORPLAN_WIDGET;
+class HIERARCHY_PANEL;
 class ORQ_DIALOG;
 class QAction;
 class QLabel;
@@ -15,12 +16,14 @@ class QMenu;
 class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
   Q_OBJECT
 public:
-  FLOORPLAN_WINDOW(unsigned seed, int block_count);
+  // hierarchy_rows 0 leaves the design-hierarchy panel out.
+  FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows = 0);
   ~FLOORPLAN_WINDOW() override;
 
   unsigned seed() const;
   // What the left of the status bar says.
   QString status_text() const;
+  HIERARCHY_PANEL* hierarchy_panel() const;
   void set_seed(unsigned seed);
 
 public slots:
@@ -40,6 +43,7 @@ private:
   void restore_geometry();
 
   FLOORPLAN_WIDGET* m_view;
+  HIERARCHY_PANEL* m_hierarchy = nullptr;
   QLabel* m_hover;
   QList<QAction*> m_undo_redo;
   unsigned m_seed;

@@ -2,6 +2,7 @@
 // --screenshot FILE to render the main window to a PNG and exit, or with
 // --icons FILE to render a sheet of every icon of the catalogue.
 #include "floorplan_window.h"
+#include "hierarchy_panel.h"
 #include "icon_sheet.h"
 
 #include <orq.h>
@@ -43,7 +44,17 @@ int main(int argc, char** argv)
       QStringLiteral("Trigger a standard action of the menus by its enumerator name "
                      "(ORQ_..._ACTION) before the screenshot; may be repeated."),
       QStringLiteral("action"));
-  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger});
+  const QCommandLineOption hierarchy_rows(
+      QStringLiteral("hierarchy-rows"),
+      QStringLiteral("Rows of the generated design hierarchy (0: no hierarchy panel)."), QStringLiteral("n"),
+      QStringLiteral("200000"));
+  const QCommandLineOption filter(QStringLiteral("filter"),
+                                  QStringLiteral("Filter the design hierarchy with this text before the screenshot."),
+                                  QStringLiteral("text"));
+  const QCommandLineOption dump(QStringLiteral("dump-hierarchy"),
+                                QStringLiteral("Write the generated hierarchy, one instance and cell a line."),
+                                QStringLiteral("file"));
+  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger, hierarchy_rows, filter, dump});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -54,10 +65,17 @@ int main(int argc, char** argv)
     return written ? 0 : 1;
   }
 
-  FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24));
+  FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24),
+                          qBound(0, parser.value(hierarchy_rows).toInt(), 5000000));
   window.show();
-
   int rc = 0;
+  if (parser.isSet(dump) && (!window.hierarchy_panel() || !window.hierarchy_panel()->dump(parser.value(dump)))) {
+    std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(parser.value(dump)));
+    rc = 1;
+  }
+  if (parser.isSet(filter) && window.hierarchy_panel())
+    window.hierarchy_panel()->filter_now(parser.value(filter));
+
   if (parser.isSet(options_shot)) {
     ORQ_DIALOG* dialog = window.make_options_dialog();
     dialog->show();
@@ -78,6 +96,8 @@ int main(int argc, char** argv)
     QCoreApplication::processEvents();
     std::printf("floorplan_viewer: status: %s\n", qPrintable(window.status_text()));
     std::printf("floorplan_viewer: seed: %u\n", window.seed());
+    if (window.hierarchy_panel())
+      std::printf("floorplan_viewer: hierarchy: %s\n", qPrintable(window.hierarchy_panel()->status_text()));
     const QString file = parser.value(screenshot);
     if (!window.grab().save(file, "PNG")) {
       std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));

@@ -1,6 +1,8 @@
 // The sample tool, run as a user runs it.
 #include "orq_test_support.h"
 
+#include <orq.h>
+
 #include <QImage>
 #include <QSet>
 #include <QTemporaryDir>
@@ -62,7 +64,7 @@ private slots:
     QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}, &err), 0);
     const QImage image(png);
     QVERIFY(!image.isNull());
-    QCOMPARE(image.size(), QSize(1100, 760));
+    QCOMPARE(image.size(), QSize(1280, 800));
     // Die, pads and blocks of eight cell colours, with text: far more than a
     // blank window's handful of colours.
     QVERIFY2(distinct_colours(image) > 40, qPrintable(QString::number(distinct_colours(image))));
@@ -121,10 +123,67 @@ private slots:
         file.write("Colors\\" + line + '\n');
     file.close();
     const QString png = home.filePath(QStringLiteral("shot.png"));
-    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}), 0);
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--hierarchy-rows"), QStringLiteral("0"),
+                                      QStringLiteral("--screenshot"), png}),
+             0);
     const QImage image(png);
     // Just inside the drawing, left of the die, below the menu bar.
     QCOMPARE(QColor(image.pixel(4, image.height() / 2)).name(), corner);
+  }
+
+  // The panel's count is checked against the generated rows themselves,
+  // matched here with the expression the typed text stands for.
+  void hierarchy_filter_counts_the_matching_rows_data()
+  {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("instance prefix") << "u_alu";
+    QTest::newRow("cell type") << "nand2";
+    QTest::newRow("two words") << "dff 12";
+    QTest::newRow("wildcard") << "alu*blk";
+    QTest::newRow("nothing typed") << "";
+  }
+
+  void hierarchy_filter_counts_the_matching_rows()
+  {
+    QFETCH(QString, typed);
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    const QString dump = home.filePath(QStringLiteral("rows.txt"));
+    QString out;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--hierarchy-rows"), QStringLiteral("20000"), QStringLiteral("--filter"),
+                         typed, QStringLiteral("--dump-hierarchy"), dump, QStringLiteral("--screenshot"), png},
+                        nullptr, &out),
+             0);
+    struct EXPRESSIONS : ORQ_TREE_FILTER_PROXY_MODEL {
+      using ORQ_TREE_FILTER_PROXY_MODEL::process_keyword_expression;
+    } parser;
+    const QRegularExpression expression = parser.process_keyword_expression(typed.trimmed());
+    QFile rows(dump);
+    QVERIFY(rows.open(QIODevice::ReadOnly));
+    int total = 0;
+    int matching = 0;
+    for (const QByteArray& line : rows.readAll().split('\n')) {
+      if (line.isEmpty())
+        continue;
+      ++total;
+      const QList<QByteArray> cells = line.split('\t');
+      matching += expression.match(QString::fromUtf8(cells.value(0) + ' ' + cells.value(1) + ' ')).hasMatch();
+    }
+    QCOMPARE(total, 20000);
+    const QString expected = typed.isEmpty()
+                                 ? QStringLiteral("Hierarchy: 20,000 rows")
+                                 : QStringLiteral("Hierarchy: 20,000 rows | %1 matches").arg(QLocale(QLocale::English).toString(matching));
+    QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: hierarchy: ") + expected + QLatin1Char('\n')),
+             qPrintable(out));
+    // Matching rows are painted on the highlight colour.
+    const QImage image(png);
+    const QRgb highlight = ORQ_COLOR(ORQ_MSW_KEYWORD_HIGHLIGHT_BKGND_COLOR).get_color().rgb();
+    int painted = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < 400; ++x)
+        painted += image.pixel(x, y) == highlight;
+    QCOMPARE(painted > 0, matching > 0 && !typed.isEmpty());
   }
 
   void unwritable_screenshot_fails_with_a_message()
