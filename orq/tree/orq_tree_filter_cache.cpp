@@ -236,21 +236,9 @@ void ORQ_TREE_FILTER_CACHE::drop()
   std::vector<QModelIndex>().swap(m_block_indexes);
   std::vector<std::uint32_t>().swap(m_base);
   std::vector<std::uint32_t>().swap(m_owner_slot);
-  std::vector<KEY>().swap(m_keys);
+  m_blocks.reset(0);
   std::vector<std::uint8_t>().swap(m_flags);
   m_history.clear();
-}
-
-void ORQ_TREE_FILTER_CACHE::insert_block_key(quintptr id, int row, std::uint32_t block)
-{
-  std::size_t at = (std::size_t(id) * 0x9E3779B97F4A7C15ull ^ std::size_t(row) * 0xC2B2AE3D27D4EB4Full) >> 7;
-  for (;; ++at) {
-    KEY& key = m_keys[at & m_key_mask];
-    if (key.block == NONE) {
-      key = {id, row, block};
-      return;
-    }
-  }
 }
 
 std::uint32_t ORQ_TREE_FILTER_CACHE::block_of(const QModelIndex& parent) const
@@ -260,16 +248,7 @@ std::uint32_t ORQ_TREE_FILTER_CACHE::block_of(const QModelIndex& parent) const
   // Rows hang on their column-0 cells; other parents are not kept.
   if (!m_has_structure || parent.column() != 0 || parent.model() != m_model)
     return NONE;
-  const quintptr id = parent.internalId();
-  const int row = parent.row();
-  std::size_t at = (std::size_t(id) * 0x9E3779B97F4A7C15ull ^ std::size_t(row) * 0xC2B2AE3D27D4EB4Full) >> 7;
-  for (;; ++at) {
-    const KEY& key = m_keys[at & m_key_mask];
-    if (key.block == NONE)
-      return NONE;
-    if (key.id == id && key.row == row)
-      return key.block;
-  }
+  return m_blocks.find(parent.internalId(), parent.row());
 }
 
 // Breadth-first: the blocks are numbered in the order their owners are
@@ -321,13 +300,9 @@ void ORQ_TREE_FILTER_CACHE::build_structure()
     }
   }
   m_base.push_back(slot_total);
-  std::size_t table = 16;
-  while (table < keys.size() * 2)
-    table *= 2;
-  m_keys.assign(table, KEY{0, 0, NONE});
-  m_key_mask = table - 1;
+  m_blocks.reset(keys.size());
   for (std::size_t k = 0; k < keys.size(); ++k)
-    insert_block_key(keys[k].first, keys[k].second, std::uint32_t(k + 1));
+    m_blocks.insert(keys[k].first, keys[k].second, std::uint32_t(k + 1));
   m_flags.assign(slot_total, 0);
   m_has_structure = true;
 }
@@ -467,7 +442,7 @@ void ORQ_TREE_FILTER_CACHE::compute(const ORQ_FILTER_SETTINGS& settings)
 
 std::size_t ORQ_TREE_FILTER_CACHE::memory_bytes() const
 {
-  std::size_t bytes = m_flags.capacity() + m_keys.capacity() * sizeof(KEY) +
+  std::size_t bytes = m_flags.capacity() + m_blocks.memory_bytes() +
                       (m_base.capacity() + m_owner_slot.capacity()) * 4 +
                       m_block_items.capacity() * sizeof(QStandardItem*) +
                       m_block_indexes.capacity() * sizeof(QModelIndex);

@@ -4,6 +4,8 @@
 // of consecutive slots), one byte of answers per row, and the rows that
 // recent expressions matched, so that typing on narrows the search and a
 // backspace finds its answers again.
+#include "orq_index_key_table_p.h"
+
 #include <QList>
 #include <QModelIndex>
 #include <QRegularExpression>
@@ -94,7 +96,6 @@ private:
     std::size_t count = 0;
   };
   void build_structure();
-  void insert_block_key(quintptr id, int row, std::uint32_t block);
   template <typename VISIT> void for_each_block_row(std::uint32_t block, VISIT&& visit) const;
   bool row_matches(std::uint32_t block, int row, const ORQ_FILTER_MATCHER& matcher,
                    const ORQ_FILTER_SETTINGS& settings, QString& joined) const;
@@ -114,14 +115,8 @@ private:
   std::vector<QModelIndex> m_block_indexes;
   std::vector<std::uint32_t> m_base; // one more than blocks: the end
   std::vector<std::uint32_t> m_owner_slot;
-  // Open addressing from (parent's internal id, parent's row) to its block.
-  struct KEY {
-    quintptr id;
-    int row;
-    std::uint32_t block;
-  };
-  std::vector<KEY> m_keys;
-  std::size_t m_key_mask = 0;
+  // From (parent's internal id, parent's row) to its block.
+  ORQ_INDEX_KEY_TABLE m_blocks;
 
   std::vector<std::uint8_t> m_flags; // per slot
   std::vector<HISTORY> m_history;    // most recent first

@@ -27,10 +27,11 @@ QString escaped(const QString& text)
 using CACHE = ORQ_TREE_FILTER_CACHE;
 
 // Below this many source rows, or with fewer persistent indexes (views
-// holding few expansions), re-filtering in place is cheap and keeps views as
-// they are.
-constexpr std::size_t reset_rows = 20000;
-constexpr int reset_persistent = 200;
+// holding few expanded rows), re-filtering in place is cheap and keeps
+// views as they are. Above, each run of hidden rows costs a view a pass
+// over everything it shows.
+constexpr std::size_t reset_rows = 2000;
+constexpr int reset_persistent = 10;
 
 } // namespace
 
@@ -223,12 +224,12 @@ bool ORQ_TREE_FILTER_PROXY_MODEL::filterAcceptsRow(int source_row, const QModelI
 }
 
 // The base class re-filters in place: every run of rows that changes is
-// removed or inserted on its own, and each of those walks all persistent
-// indexes. An expanded view over a large tree holds one per expanded row,
-// which makes one keystroke quadratic. Such views are reset first, which
-// also drops the base class's mappings; what the views map again during the
-// reset gets the new answers and is counted when the expression is stored
-// right after, as if the reset had followed it.
+// removed or inserted on its own, and each removal walks all persistent
+// indexes while a tree view lays out what it shows again. With an expanded
+// view over a large tree one keystroke is quadratic. Such views are reset
+// first, which also drops the base class's mappings; what the views map
+// again during the reset gets the new answers and is counted when the
+// expression is stored right after, as if the reset had followed it.
 void ORQ_TREE_FILTER_PROXY_MODEL::refilter(const QRegularExpression& expression)
 {
   if (sourceModel()) {

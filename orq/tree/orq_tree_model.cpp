@@ -1,10 +1,12 @@
 #include "orq_tree_model.h"
 
+#include "orq_index_key_table_p.h"
 #include "orq_require_p.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace {
@@ -43,6 +45,124 @@ std::vector<CELL> path_of(const QModelIndex& index)
     path.emplace_back(at.row(), at.column());
   std::reverse(path.begin(), path.end());
   return path;
+}
+
+// The common case, every index of one standard model whose ancestors all
+// sit in column 0 (rows hang on their column-0 items): then two paths first
+// differ in rows unless one index is a cell of the other's row, and tree
+// order is a pre-order rank with a subtree end per row, compared in O(1).
+struct RANKED {
+  const void* pointer; // with row and column, the index's identity
+  int row;
+  int column;
+  std::uint32_t rank;
+  std::uint32_t end; // one past the last rank below this row
+  int position;      // in the input list
+};
+
+bool ranked_before(const RANKED& a, const RANKED& b)
+{
+  if (a.row == b.row && a.column == b.column && a.pointer == b.pointer)
+    return true;
+  if (a.rank == b.rank)
+    return false; // cells of one row
+  if (a.rank < b.rank && b.rank < a.end)
+    return a.column == 0; // a's row holds b: only its column-0 cell is on b's path
+  if (b.rank < a.rank && a.rank < b.end)
+    return false;
+  return a.rank < b.rank;
+}
+
+// Ranks the rows the valid indexes lie on; false when an index is not of
+// model or hangs below a cell other than column 0.
+bool rank_rows(const QStandardItemModel& model, const QList<QModelIndex>& list, std::vector<RANKED>& out)
+{
+  struct NODE {
+    int parent;
+    int row;
+  };
+  std::vector<NODE> nodes;
+  nodes.reserve(size_t(list.size()) * 2);
+  ORQ_INDEX_KEY_TABLE node_of(size_t(list.size()) * 2);
+  const QStandardItem* root = model.invisibleRootItem();
+  bool ok = true;
+  // The node of (parent item, row), made with its ancestors on first need.
+  auto node = [&](const QStandardItem* parent, int row, auto& self) -> int {
+    const std::uint32_t known = node_of.find(quintptr(parent), row);
+    if (known != ORQ_INDEX_KEY_TABLE::NONE)
+      return int(known);
+    int above = -1;
+    if (parent != root) {
+      // Siblings share their parent's node: found by the item itself, it
+      // costs no walk up the model (row -1 marks the item's own entry).
+      std::uint32_t owner = node_of.find(quintptr(parent), -1);
+      if (owner == ORQ_INDEX_KEY_TABLE::NONE) {
+        if (parent->column() != 0) {
+          ok = false;
+          return -1;
+        }
+        const QStandardItem* grand = parent->parent();
+        const int found = self(grand ? grand : root, parent->row(), self);
+        if (!ok)
+          return -1;
+        owner = node_of.insert(quintptr(parent), -1, std::uint32_t(found));
+      }
+      above = int(owner);
+    }
+    nodes.push_back({above, row});
+    node_of.insert(quintptr(parent), row, std::uint32_t(nodes.size() - 1));
+    return int(nodes.size() - 1);
+  };
+  std::vector<int> node_of_entry;
+  node_of_entry.reserve(size_t(list.size()));
+  for (const QModelIndex& index : list) {
+    if (!index.isValid())
+      continue;
+    if (index.model() != &model)
+      return false;
+    node_of_entry.push_back(node(static_cast<const QStandardItem*>(index.internalPointer()), index.row(), node));
+    if (!ok)
+      return false;
+  }
+  // Children in row order, then one depth-first walk for ranks and ends.
+  std::vector<int> order(nodes.size());
+  for (size_t n = 0; n < nodes.size(); ++n)
+    order[n] = int(n);
+  std::sort(order.begin(), order.end(), [&](int a, int b) {
+    return nodes[size_t(a)].parent != nodes[size_t(b)].parent ? nodes[size_t(a)].parent < nodes[size_t(b)].parent
+                                                              : nodes[size_t(a)].row < nodes[size_t(b)].row;
+  });
+  std::vector<int> first(nodes.size() + 1, 0); // children of n: order[first[n+1] .. ) shifted by one for -1
+  for (const NODE& n : nodes)
+    ++first[size_t(n.parent + 1)];
+  std::vector<int> begin(nodes.size() + 2, 0);
+  for (size_t p = 0; p <= nodes.size(); ++p)
+    begin[p + 1] = begin[p] + first[p];
+  std::vector<std::uint32_t> rank(nodes.size()), end(nodes.size());
+  std::uint32_t next = 0;
+  std::vector<std::pair<int, int>> stack; // node, next child position
+  stack.emplace_back(-1, begin[0]);
+  while (!stack.empty()) {
+    auto& [at, child] = stack.back();
+    if (child < begin[size_t(at + 2)]) {
+      const int n = order[size_t(child++)];
+      rank[size_t(n)] = next++;
+      stack.emplace_back(n, begin[size_t(n + 1)]);
+    } else {
+      if (at >= 0)
+        end[size_t(at)] = next;
+      stack.pop_back();
+    }
+  }
+  int valid = 0;
+  for (int position = 0; position < list.size(); ++position) {
+    const QModelIndex& index = list.at(position);
+    if (!index.isValid())
+      continue;
+    const int n = node_of_entry[size_t(valid++)];
+    out.push_back({index.internalPointer(), index.row(), index.column(), rank[size_t(n)], end[size_t(n)], position});
+  }
+  return true;
 }
 
 } // namespace
@@ -162,6 +282,22 @@ void ORQ_TREE_MODEL::sort_index_list_by_positions(QList<QModelIndex>& list) cons
 {
   if (list.size() < 2)
     return;
+  std::vector<RANKED> ranked;
+  ranked.reserve(size_t(list.size()));
+  if (rank_rows(*this, list, ranked)) {
+    // The same comparisons as the path walk below gives, so the stable sort
+    // puts every entry where the walk would.
+    std::stable_sort(ranked.begin(), ranked.end(), ranked_before);
+    QList<QModelIndex> sorted;
+    sorted.reserve(list.size());
+    for (const QModelIndex& index : qAsConst(list))
+      if (!index.isValid())
+        sorted.append(index);
+    for (const RANKED& entry : ranked)
+      sorted.append(list.at(entry.position));
+    list.swap(sorted);
+    return;
+  }
   // Each index's path (top-level first, as row and column) is worked out
   // once into one flat array; ancestors shared by many indexes are looked up
   // once too. The stable sort then asks exactly the questions

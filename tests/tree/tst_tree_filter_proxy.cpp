@@ -306,7 +306,7 @@ private slots:
     QTest::addColumn<int>("modules");
     QTest::addColumn<bool>("reset");
     QTest::newRow("small tree, views kept") << 20 << false;
-    QTest::newRow("large tree, views reset") << 400 << true;
+    QTest::newRow("large tree, views reset") << 40 << true;
   }
 
   void large_expanded_views_are_reset()
