@@ -42,9 +42,13 @@ void fill_design_hierarchy(ORQ_TREE_MODEL& model, int rows, unsigned seed)
       lowest << module.first();
     }
   }
-  for (QStandardItem* module : lowest) {
+  // The leaves make up the rest, spread evenly, so the total is what was asked.
+  const int leaves_left = lowest.isEmpty() ? 0 : std::max(0, rows - made);
+  for (int m = 0; m < lowest.size(); ++m) {
+    QStandardItem* module = lowest.at(m);
+    const int count = leaves_left / int(lowest.size()) + (m < leaves_left % int(lowest.size()) ? 1 : 0);
     QList<QList<QStandardItem*>> leaves;
-    for (int i = 0; i < leaves_per_module && made < rows; ++i) {
+    for (int i = 0; i < count; ++i) {
       const QString cell = QLatin1String(cells[random.bounded(int(std::size(cells)))]);
       leaves << row(QStringLiteral("i_%1_%2").arg(cell.left(3).toLower()).arg(i), cell);
     }

@@ -219,7 +219,7 @@ private slots:
   {
     QTest::addColumn<quint32>("seed");
     QTest::addColumn<bool>("with_views");
-    for (quint32 seed = 1; seed <= 24; ++seed) {
+    for (quint32 seed = 1; seed <= 12; ++seed) {
       QTest::addRow("seed %u", seed) << seed << false;
       QTest::addRow("seed %u, expanded views", seed) << seed << true;
     }
