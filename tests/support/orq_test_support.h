@@ -27,6 +27,20 @@ QString orq_test_internal_error(const std::function<void()>& body);
 QString orq_test_helper_path();
 QProcessEnvironment orq_test_child_environment(const QString& dir);
 
+// How many rounds a randomised test runs: all of them in an ordinary build,
+// a few under the sanitizers, which track every allocation.
+#ifdef ORQ_TEST_SANITIZED
+constexpr int orq_test_rounds(int ordinary, int sanitized)
+{
+  return (void)ordinary, sanitized;
+}
+#else
+constexpr int orq_test_rounds(int ordinary, int sanitized)
+{
+  return (void)sanitized, ordinary;
+}
+#endif
+
 // Test classes register themselves; a binary's main runs them all, in the
 // order of registration, and fails if any fails.
 #include <functional>
