@@ -76,14 +76,16 @@ private slots:
 
   void a_second_proxy_is_an_internal_error()
   {
-    ORQ_TREE_FILTER_MODEL model;
+    QObject owner; // the proxy becomes a child of the model's parent
+    ORQ_TREE_FILTER_MODEL& model = *new ORQ_TREE_FILTER_MODEL(&owner);
     model.create_filter_model(0);
     QCOMPARE(orq_test_internal_error([&] { model.create_filter_model(0); }), QStringLiteral("m_filter_model == NULL"));
   }
 
   void proxy_indexes_map_to_items_and_back()
   {
-    ORQ_TREE_FILTER_MODEL model;
+    QObject owner; // the proxy becomes a child of the model's parent
+    ORQ_TREE_FILTER_MODEL& model = *new ORQ_TREE_FILTER_MODEL(&owner);
     fill(model);
     model.create_filter_model(0);
     ORQ_TREE_FILTER_PROXY_MODEL* proxy = model.get_filter_model();
@@ -115,7 +117,8 @@ private slots:
 
   void settings_reach_the_proxy_with_the_next_filter()
   {
-    ORQ_TREE_FILTER_MODEL model;
+    QObject owner; // the proxy becomes a child of the model's parent
+    ORQ_TREE_FILTER_MODEL& model = *new ORQ_TREE_FILTER_MODEL(&owner);
     fill(model);
     model.create_filter_model(0);
     ORQ_TREE_FILTER_PROXY_MODEL* proxy = model.get_filter_model();

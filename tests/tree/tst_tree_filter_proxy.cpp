@@ -313,7 +313,8 @@ private slots:
   {
     QFETCH(int, modules);
     QFETCH(bool, reset);
-    ORQ_TREE_FILTER_MODEL model;
+    QObject owner; // the proxy becomes a child of the model's parent
+    ORQ_TREE_FILTER_MODEL& model = *new ORQ_TREE_FILTER_MODEL(&owner);
     for (int m = 0; m < modules; ++m) {
       auto* module = new QStandardItem(QStringLiteral("u_mod_%1").arg(m));
       for (int i = 0; i < 60; ++i)
