@@ -10,11 +10,10 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QMenu>
+#include <QPointer>
 #include <QStyle>
 #include <QTextEdit>
 #include <QToolButton>
-
-#include <memory>
 
 namespace {
 
@@ -42,18 +41,18 @@ QString examples_text()
       "</style></head><body style=\" font-family:'Sans Serif'; font-size:9pt; font-weight:400; "
       "font-style:normal;\">\n"
       "<p style=\" margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; "
-      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc </span>matches with the string "
-      "&quot;abc&quot; or &quot;ABC&quot;</p>\n"
+      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc </span>matches with the "
+      "string &quot;abc&quot; or &quot;ABC&quot;</p>\n"
       "<p style=\"-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; margin-left:0px; "
       "margin-right:0px; -qt-block-indent:0; text-indent:0px;\"></p>\n"
       "<p style=\" margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; "
-      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc* </span>matches &quot;abc&quot; "
-      "and any characters following it.</p>\n"
+      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc* </span>matches "
+      "&quot;abc&quot; and any characters following it.</p>\n"
       "<p style=\"-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; margin-left:0px; "
       "margin-right:0px; -qt-block-indent:0; text-indent:0px;\"></p>\n"
       "<p style=\" margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; "
-      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc def </span>matches strings that "
-      "contain both &quot;abc&quot; and &quot;def&quot;</p>\n"
+      "text-indent:0px;\"><span style=\" font-weight:600; color:#0000ff;\">abc def </span>matches strings "
+      "that contain both &quot;abc&quot; and &quot;def&quot;</p>\n"
       "<p style=\"-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; margin-left:0px; "
       "margin-right:0px; -qt-block-indent:0; text-indent:0px;\"></p>\n"
       "<p style=\" margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; "
@@ -67,7 +66,8 @@ QString examples_text()
 ORQ_LINE_EDIT_FILTER::ORQ_LINE_EDIT_FILTER(QWidget* parent)
     : QLineEdit(parent)
     , m_clear_button(make_button(this, ORQ_GRAY_X_ICON, "clear_button", tr("Clear filter")))
-    , m_option_button(make_button(this, ORQ_TREE_VIEW_FILTER_OPTION_ICON, "option_button", tr("Filter options")))
+    , m_option_button(
+          make_button(this, ORQ_TREE_VIEW_FILTER_OPTION_ICON, "option_button", tr("Filter options")))
 {
   setPlaceholderText(QStringLiteral("<<Filter>>"));
   connect(m_clear_button, &QToolButton::clicked, this, &QLineEdit::clear);
@@ -142,10 +142,13 @@ void ORQ_LINE_EDIT_FILTER::resizeEvent(QResizeEvent* event)
 
 void ORQ_LINE_EDIT_FILTER::contextMenuEvent(QContextMenuEvent* event)
 {
-  std::unique_ptr<QMenu> menu(createStandardContextMenu());
+  // The menu is a child of the line edit; should the edit go away while the
+  // menu runs, the menu goes with it and must not be deleted a second time.
+  QPointer<QMenu> menu = createStandardContextMenu();
   menu->setObjectName(QStringLiteral("orq_line_edit_filter_menu"));
   menu->addSeparator();
   QAction* examples = menu->addAction(tr("Examples..."));
   connect(examples, &QAction::triggered, this, &ORQ_LINE_EDIT_FILTER::show_examples);
   menu->exec(event->globalPos());
+  delete menu;
 }

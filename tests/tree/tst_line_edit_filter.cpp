@@ -20,6 +20,8 @@
 class TST_LINE_EDIT_FILTER : public QObject {
   Q_OBJECT
 private slots:
+  void initTestCase() { orq_test_strict_messages(); }
+
   void clear_button_follows_the_text()
   {
     ORQ_LINE_EDIT_FILTER edit;
@@ -123,7 +125,8 @@ private slots:
     QVERIFY(plain.contains(QStringLiteral("abc matches with the string \"abc\" or \"ABC\"")));
     QVERIFY(plain.contains(QStringLiteral("abc* matches \"abc\" and any characters following it.")));
     QVERIFY(plain.contains(QStringLiteral("abc def matches strings that contain both \"abc\" and \"def\"")));
-    QVERIFY(plain.contains(QStringLiteral("\" abc \" matches strings that contain a space on either side of abc")));
+    QVERIFY(plain.contains(
+        QStringLiteral("\" abc \" matches strings that contain a space on either side of abc")));
     QCOMPARE(plain.count(QLatin1Char('\n')), 6); // four paragraphs, three empty ones between
     QVERIFY(text->toHtml().contains(QStringLiteral("color:#0000ff")));
 
@@ -140,20 +143,25 @@ private slots:
     edit.show();
     QVERIFY(QTest::qWaitForWindowExposed(&edit));
     QStringList texts;
+    QString menu_name;
     bool separated = false;
     QTimer::singleShot(0, this, [&] {
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      if (!menu)
-        return;
-      const QList<QAction*> actions = menu->actions();
-      for (QAction* action : actions)
-        texts << action->text();
-      separated = actions.size() >= 2 && actions.at(actions.size() - 2)->isSeparator();
-      actions.last()->trigger();
-      menu->close();
+      QWidget* popup = QApplication::activePopupWidget();
+      if (auto* menu = qobject_cast<QMenu*>(popup)) {
+        menu_name = menu->objectName();
+        const QList<QAction*> actions = menu->actions();
+        for (QAction* action : actions)
+          texts << action->text();
+        separated = actions.size() >= 2 && actions.at(actions.size() - 2)->isSeparator();
+        actions.last()->trigger();
+      }
+      // Whatever opened must close, or the menu's own loop never returns.
+      if (popup)
+        popup->close();
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), edit.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&edit, &event);
+    QCOMPARE(menu_name, QStringLiteral("orq_line_edit_filter_menu"));
     QVERIFY(texts.size() > 2);
     QCOMPARE(texts.last(), QStringLiteral("Examples..."));
     QVERIFY(separated);
