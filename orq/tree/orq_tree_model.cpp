@@ -1,6 +1,5 @@
 #include "orq_tree_model.h"
 
-#include "orq_index_key_table_p.h"
 #include "orq_require_p.h"
 
 #include <QHash>
@@ -48,120 +47,306 @@ std::vector<CELL> path_of(const QModelIndex& index)
 }
 
 // The common case, every index of one standard model whose ancestors all
-// sit in column 0 (rows hang on their column-0 items): then two paths first
-// differ in rows unless one index is a cell of the other's row, and tree
-// order is a pre-order rank with a subtree end per row, compared in O(1).
-struct RANKED {
-  const void* pointer; // with row and column, the index's identity
-  int row;
-  int column;
+// sit in column 0 (rows hang on their column-0 items). Then two paths first
+// differ in rows unless one index is a cell of the other's row, so tree
+// order is a pre-order rank per row plus the rank one past its subtree.
+struct ROW_KEY {
   std::uint32_t rank;
-  std::uint32_t end; // one past the last rank below this row
-  int position;      // in the input list
+  std::uint32_t end;
+  int column;
+  int position; // in the input list
 };
 
-bool ranked_before(const RANKED& a, const RANKED& b)
+// What the path walk answers for two such indexes, whatever their columns.
+bool row_key_before(const ROW_KEY& a, const ROW_KEY& b)
 {
-  if (a.row == b.row && a.column == b.column && a.pointer == b.pointer)
-    return true;
   if (a.rank == b.rank)
-    return false; // cells of one row
-  if (a.rank < b.rank && b.rank < a.end)
-    return a.column == 0; // a's row holds b: only its column-0 cell is on b's path
-  if (b.rank < a.rank && a.rank < b.end)
-    return false;
-  return a.rank < b.rank;
+    return a.column == b.column; // one row: only the index itself comes first
+  if (a.rank > b.rank)
+    return false; // after b's row, or below it where b's row comes first
+  // Below a's row only its column-0 cell is on b's path.
+  return a.column == 0 || b.rank >= a.end;
 }
 
-// Ranks the rows the valid indexes lie on; false when an index is not of
-// model or hangs below a cell other than column 0.
-bool rank_rows(const QStandardItemModel& model, const QList<QModelIndex>& list, std::vector<RANKED>& out)
-{
-  struct NODE {
-    int parent;
-    int row;
-  };
-  std::vector<NODE> nodes;
-  nodes.reserve(size_t(list.size()) * 2);
-  ORQ_INDEX_KEY_TABLE node_of(size_t(list.size()) * 2);
-  const QStandardItem* root = model.invisibleRootItem();
-  bool ok = true;
-  // The node of (parent item, row), made with its ancestors on first need.
-  auto node = [&](const QStandardItem* parent, int row, auto& self) -> int {
-    const std::uint32_t known = node_of.find(quintptr(parent), row);
-    if (known != ORQ_INDEX_KEY_TABLE::NONE)
-      return int(known);
-    int above = -1;
-    if (parent != root) {
-      // Siblings share their parent's node: found by the item itself, it
-      // costs no walk up the model (row -1 marks the item's own entry).
-      std::uint32_t owner = node_of.find(quintptr(parent), -1);
-      if (owner == ORQ_INDEX_KEY_TABLE::NONE) {
-        if (parent->column() != 0) {
-          ok = false;
-          return -1;
-        }
-        const QStandardItem* grand = parent->parent();
-        const int found = self(grand ? grand : root, parent->row(), self);
-        if (!ok)
-          return -1;
-        owner = node_of.insert(quintptr(parent), -1, std::uint32_t(found));
-      }
-      above = int(owner);
+constexpr std::uint32_t NONE = 0xffffffffu;
+
+struct PARENT_ITEM {
+  const QStandardItem* item;
+  std::uint32_t parent; // its own parent item's number
+  int row;
+};
+
+// Dense numbers for the parent items of a selection and their ancestors.
+// The table holds numbers only, the items sit in one array: on a cold run
+// every fresh page costs more than the lookups, so memory is kept small.
+class PARENT_NUMBERS {
+public:
+  PARENT_NUMBERS(const QStandardItem* root, std::size_t expected)
+  {
+    std::size_t capacity = 64;
+    while (capacity < expected)
+      capacity *= 2;
+    m_slots.assign(capacity, NONE);
+    m_items.reserve(expected + 1); // pages are only paid for once written
+    number(root);
+  }
+
+  // The item's number, a new one (and nothing known about it) on first sight.
+  std::uint32_t number(const QStandardItem* item)
+  {
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t at = hash(item);
+    for (;; ++at) {
+      const std::uint32_t known = m_slots[at & mask];
+      if (known == NONE)
+        break;
+      if (m_items[known].item == item)
+        return known;
     }
-    nodes.push_back({above, row});
-    node_of.insert(quintptr(parent), row, std::uint32_t(nodes.size() - 1));
-    return int(nodes.size() - 1);
-  };
-  std::vector<int> node_of_entry;
-  node_of_entry.reserve(size_t(list.size()));
-  for (const QModelIndex& index : list) {
+    m_items.push_back({item, NONE, -1});
+    const auto added = std::uint32_t(m_items.size() - 1);
+    if (m_items.size() * 2 > m_slots.size()) {
+      m_slots.assign(m_slots.size() * 2, NONE);
+      for (std::uint32_t n = 0; n <= added; ++n)
+        place(n);
+    } else {
+      m_slots[at & mask] = added;
+    }
+    return added;
+  }
+
+  std::vector<PARENT_ITEM>& items() { return m_items; }
+
+private:
+  static std::size_t hash(const QStandardItem* item)
+  {
+    std::uint64_t x = std::uint64_t(quintptr(item)) * 0x9E3779B97F4A7C15ull;
+    return std::size_t(x ^ (x >> 29));
+  }
+
+  void place(std::uint32_t number)
+  {
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t at = hash(m_items[number].item);
+    while (m_slots[at & mask] != NONE)
+      ++at;
+    m_slots[at & mask] = number;
+  }
+
+  std::vector<std::uint32_t> m_slots;
+  std::vector<PARENT_ITEM> m_items;
+};
+
+struct ROW_CELL {
+  int row;
+  int column;
+  int position; // in the input list
+};
+
+// Stable, and cheap for the handful of children most rows have.
+template <typename T, typename LESS> void sort_small_runs(T* begin, T* end, LESS less)
+{
+  if (end - begin > 32) {
+    std::stable_sort(begin, end, less);
+    return;
+  }
+  for (T* at = begin + 1; at < end; ++at) {
+    T moving = *at;
+    T* hole = at;
+    for (; hole > begin && less(moving, hole[-1]); --hole)
+      *hole = hole[-1];
+    *hole = moving;
+  }
+}
+
+// Whether two indexes of one row share a column, i.e. one is listed twice.
+bool has_repeated_column(const ROW_CELL* begin, const ROW_CELL* end, std::vector<int>& columns)
+{
+  if (end - begin <= 8) {
+    for (const ROW_CELL* a = begin; a < end; ++a)
+      for (const ROW_CELL* b = a + 1; b < end; ++b)
+        if (a->column == b->column)
+          return true;
+    return false;
+  }
+  columns.clear();
+  for (const ROW_CELL* at = begin; at < end; ++at)
+    columns.push_back(at->column);
+  std::sort(columns.begin(), columns.end());
+  return std::adjacent_find(columns.begin(), columns.end()) != columns.end();
+}
+
+// Puts the positions of list's valid indexes into tree order. False, with
+// nothing done, when an index is not of model or a row hangs below a cell
+// other than column 0. On a cold run every fresh page of memory costs more
+// than the work done in it, so buffers are few and reused.
+bool sort_rows_of(const QStandardItemModel& model, const QList<QModelIndex>& list, std::vector<int>& order)
+{
+  const int size = list.size();
+  PARENT_NUMBERS numbers(model.invisibleRootItem(), std::size_t(size));
+  // The parent item's number per input position, -1 for an invalid index.
+  std::vector<int> parent_of(std::size_t(size), -1);
+  const QStandardItem* last_item = nullptr;
+  int last_number = -1;
+  for (int position = 0; position < size; ++position) {
+    const QModelIndex& index = list.at(position);
     if (!index.isValid())
       continue;
     if (index.model() != &model)
       return false;
-    node_of_entry.push_back(node(static_cast<const QStandardItem*>(index.internalPointer()), index.row(), node));
-    if (!ok)
-      return false;
+    const auto* item = static_cast<const QStandardItem*>(index.internalPointer());
+    if (item != last_item) { // siblings often come together
+      last_item = item;
+      last_number = int(numbers.number(item));
+    }
+    parent_of[std::size_t(position)] = last_number;
   }
-  // Children in row order, then one depth-first walk for ranks and ends.
-  std::vector<int> order(nodes.size());
-  for (size_t n = 0; n < nodes.size(); ++n)
-    order[n] = int(n);
-  std::sort(order.begin(), order.end(), [&](int a, int b) {
-    return nodes[size_t(a)].parent != nodes[size_t(b)].parent ? nodes[size_t(a)].parent < nodes[size_t(b)].parent
-                                                              : nodes[size_t(a)].row < nodes[size_t(b)].row;
-  });
-  std::vector<int> first(nodes.size() + 1, 0); // children of n: order[first[n+1] .. ) shifted by one for -1
-  for (const NODE& n : nodes)
-    ++first[size_t(n.parent + 1)];
-  std::vector<int> begin(nodes.size() + 2, 0);
-  for (size_t p = 0; p <= nodes.size(); ++p)
-    begin[p + 1] = begin[p] + first[p];
-  std::vector<std::uint32_t> rank(nodes.size()), end(nodes.size());
-  std::uint32_t next = 0;
-  std::vector<std::pair<int, int>> stack; // node, next child position
-  stack.emplace_back(-1, begin[0]);
-  while (!stack.empty()) {
-    auto& [at, child] = stack.back();
-    if (child < begin[size_t(at + 2)]) {
-      const int n = order[size_t(child++)];
-      rank[size_t(n)] = next++;
-      stack.emplace_back(n, begin[size_t(n + 1)]);
-    } else {
-      if (at >= 0)
-        end[size_t(at)] = next;
-      stack.pop_back();
+  // Where the newly numbered items sit, one generation at a time: asking
+  // the model about many items in one loop, with nothing depending on the
+  // previous answer, lets their memory be fetched side by side instead of
+  // in one walk up the tree after another.
+  std::vector<const QStandardItem*> above;
+  for (std::size_t first = 1; first < numbers.items().size();) {
+    const std::size_t last = numbers.items().size();
+    above.resize(last - first);
+    for (std::size_t n = first; n < last; ++n) {
+      PARENT_ITEM& parent = numbers.items()[n];
+      const QModelIndex at = model.indexFromItem(parent.item);
+      if (at.column() != 0)
+        return false;
+      parent.row = at.row();
+      above[n - first] = static_cast<const QStandardItem*>(at.internalPointer());
+    }
+    for (std::size_t n = first; n < last; ++n)
+      numbers.items()[n].parent = numbers.number(above[n - first]);
+    first = last;
+  }
+  const std::vector<PARENT_ITEM>& parents = numbers.items();
+  const std::size_t parent_count = parents.size();
+
+  // Each parent's indexes by row, input order kept within a row, through a
+  // counting sort on the parent; cell_begin[p] .. cell_begin[p + 1] is p's.
+  std::vector<int> cell_begin(parent_count + 1, 0);
+  for (const int parent : parent_of)
+    if (parent >= 0)
+      ++cell_begin[std::size_t(parent)];
+  for (std::size_t p = 1; p <= parent_count; ++p)
+    cell_begin[p] += cell_begin[p - 1];
+  const auto cell_count = std::size_t(cell_begin[parent_count]);
+  std::vector<ROW_CELL> grouped(cell_count);
+  for (int position = size - 1; position >= 0; --position) {
+    const int parent = parent_of[std::size_t(position)];
+    if (parent < 0)
+      continue;
+    const QModelIndex& index = list.at(position);
+    grouped[std::size_t(--cell_begin[std::size_t(parent)])] = {index.row(), index.column(), position};
+  }
+  const auto by_row = [](const ROW_CELL& a, const ROW_CELL& b) { return a.row < b.row; };
+  for (std::size_t p = 0; p < parent_count; ++p)
+    sort_small_runs(grouped.data() + cell_begin[p], grouped.data() + cell_begin[p + 1], by_row);
+  // The same for each parent's child items; their rows differ.
+  std::vector<int> kid_begin(parent_count + 1, 0);
+  for (std::size_t p = 1; p < parent_count; ++p)
+    ++kid_begin[parents[p].parent];
+  for (std::size_t p = 1; p <= parent_count; ++p)
+    kid_begin[p] += kid_begin[p - 1];
+  std::vector<std::uint32_t> kids(parent_count - 1);
+  for (std::size_t p = parent_count - 1; p >= 1; --p)
+    kids[std::size_t(--kid_begin[parents[p].parent])] = std::uint32_t(p);
+  const auto by_item_row = [&parents](std::uint32_t a, std::uint32_t b) {
+    return parents[a].row < parents[b].row;
+  };
+  for (std::size_t p = 0; p < parent_count; ++p)
+    sort_small_runs(kids.data() + kid_begin[p], kids.data() + kid_begin[p + 1], by_item_row);
+
+  // The relation is plain order by rank unless an index is listed twice (it
+  // compares before itself) or a cell of another column than 0 has rows
+  // below its row (neither before nor after them, though its row's first
+  // cell is).
+  bool by_rank = true;
+  std::vector<int> columns;
+  for (std::size_t p = 0; p < parent_count && by_rank; ++p) {
+    int kid = kid_begin[p];
+    for (int cell = cell_begin[p]; cell < cell_begin[p + 1] && by_rank;) {
+      const int row = grouped[std::size_t(cell)].row;
+      int run_end = cell + 1;
+      bool other_column = grouped[std::size_t(cell)].column != 0;
+      for (; run_end < cell_begin[p + 1] && grouped[std::size_t(run_end)].row == row; ++run_end)
+        other_column |= grouped[std::size_t(run_end)].column != 0;
+      while (kid < kid_begin[p + 1] && parents[kids[std::size_t(kid)]].row < row)
+        ++kid;
+      if (other_column && kid < kid_begin[p + 1] && parents[kids[std::size_t(kid)]].row == row)
+        by_rank = false;
+      else if (run_end - cell > 1 &&
+               has_repeated_column(grouped.data() + cell, grouped.data() + run_end, columns))
+        by_rank = false;
+      cell = run_end;
     }
   }
-  int valid = 0;
-  for (int position = 0; position < list.size(); ++position) {
-    const QModelIndex& index = list.at(position);
-    if (!index.isValid())
+
+  // One depth-first walk merges each parent's indexes and child items by
+  // row. Plain order by rank is the pre-order itself: any stable sort gives
+  // that one result. Otherwise the outcome depends on which pairs get
+  // compared, so the stable sort runs on keys that answer each pair as the
+  // path walk would.
+  std::vector<ROW_KEY> keys(by_rank ? 0 : std::size_t(size));
+  if (by_rank)
+    order.swap(parent_of); // no longer needed: its pages are warm
+  order.clear();
+  order.reserve(std::size_t(size));
+  struct FRAME {
+    std::uint32_t parent;
+    int cell; // next index of the group
+    int kid;  // next child item
+    int open; // indexes of the row whose subtree is being walked
+    int open_end;
+  };
+  std::vector<FRAME> stack{{0, cell_begin[0], kid_begin[0], 0, 0}};
+  std::uint32_t next = 0;
+  while (!stack.empty()) {
+    FRAME& frame = stack.back();
+    for (int k = frame.open; k < frame.open_end; ++k)
+      keys[std::size_t(grouped[std::size_t(k)].position)].end = next;
+    frame.open = frame.open_end;
+    const int cell_end = cell_begin[frame.parent + 1];
+    const int kid_end = kid_begin[frame.parent + 1];
+    const bool has_cell = frame.cell < cell_end;
+    const bool has_kid = frame.kid < kid_end;
+    if (!has_cell && !has_kid) {
+      stack.pop_back();
       continue;
-    const int n = node_of_entry[size_t(valid++)];
-    out.push_back({index.internalPointer(), index.row(), index.column(), rank[size_t(n)], end[size_t(n)], position});
+    }
+    const int kid_row = has_kid ? parents[kids[std::size_t(frame.kid)]].row : 0;
+    const int cell_row = has_cell ? grouped[std::size_t(frame.cell)].row : 0;
+    const int row = has_cell && (!has_kid || cell_row < kid_row) ? cell_row : kid_row;
+    const std::uint32_t rank = next++;
+    const int first = frame.cell;
+    for (; frame.cell < cell_end && grouped[std::size_t(frame.cell)].row == row; ++frame.cell) {
+      const ROW_CELL& cell = grouped[std::size_t(frame.cell)];
+      if (by_rank)
+        order.push_back(cell.position);
+      else
+        keys[std::size_t(cell.position)] = {rank, next, cell.column, cell.position};
+    }
+    if (has_kid && kid_row == row) {
+      if (!by_rank) {
+        frame.open = first;
+        frame.open_end = frame.cell;
+      }
+      const std::uint32_t kid = kids[std::size_t(frame.kid++)];
+      stack.push_back({kid, cell_begin[kid], kid_begin[kid], 0, 0});
+    }
   }
+  if (by_rank)
+    return true;
+  std::vector<ROW_KEY> valid;
+  valid.reserve(grouped.size());
+  for (int position = 0; position < size; ++position)
+    if (parent_of[std::size_t(position)] >= 0)
+      valid.push_back(keys[std::size_t(position)]);
+  std::stable_sort(valid.begin(), valid.end(), row_key_before);
+  for (const ROW_KEY& key : valid)
+    order.push_back(key.position);
   return true;
 }
 
@@ -282,20 +467,44 @@ void ORQ_TREE_MODEL::sort_index_list_by_positions(QList<QModelIndex>& list) cons
 {
   if (list.size() < 2)
     return;
-  std::vector<RANKED> ranked;
-  ranked.reserve(size_t(list.size()));
-  if (rank_rows(*this, list, ranked)) {
-    // The same comparisons as the path walk below gives, so the stable sort
-    // puts every entry where the walk would.
-    std::stable_sort(ranked.begin(), ranked.end(), ranked_before);
-    QList<QModelIndex> sorted;
-    sorted.reserve(list.size());
-    for (const QModelIndex& index : qAsConst(list))
-      if (!index.isValid())
-        sorted.append(index);
-    for (const RANKED& entry : ranked)
-      sorted.append(list.at(entry.position));
-    list.swap(sorted);
+  std::vector<int> order;
+  if (sort_rows_of(*this, list, order)) {
+    // Then the input position each place takes its index from, invalid
+    // indexes first.
+    const int valid = int(order.size());
+    if (valid < list.size()) {
+      order.resize(std::size_t(list.size()));
+      std::move_backward(order.begin(), order.begin() + valid, order.end());
+      int place = 0;
+      for (int position = 0; position < list.size(); ++position)
+        if (!list.at(position).isValid())
+          order[std::size_t(place++)] = position;
+    }
+    if (!list.isDetached()) {
+      // Writing would copy the shared list anyway.
+      QList<QModelIndex> sorted;
+      sorted.reserve(list.size());
+      for (const int position : order)
+        sorted.append(list.at(position));
+      list.swap(sorted);
+      return;
+    }
+    // Permuted in place along its cycles: no index is allocated anew.
+    for (int start = 0; start < list.size(); ++start) {
+      if (order[std::size_t(start)] == start)
+        continue;
+      const QModelIndex first = list.at(start);
+      for (int at = start;;) {
+        const int source = order[std::size_t(at)];
+        order[std::size_t(at)] = at;
+        if (source == start) {
+          list[at] = first;
+          break;
+        }
+        list[at] = list.at(source);
+        at = source;
+      }
+    }
     return;
   }
   // Each index's path (top-level first, as row and column) is worked out

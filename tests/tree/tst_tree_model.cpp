@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
+#include <QSortFilterProxyModel>
 
 #include <algorithm>
 #include <memory>
@@ -103,6 +104,80 @@ QList<QModelIndex> all_cells(const QAbstractItemModel& model, const QModelIndex&
     cells << all_cells(model, model.index(r, 0, parent));
   }
   return cells;
+}
+
+// What sort_index_list_by_positions must give: invalid indexes first in
+// input order, then a stable sort of the valid ones under the relation.
+QList<QModelIndex> sorted_by_the_relation(const QList<QModelIndex>& list)
+{
+  QList<QModelIndex> invalid;
+  QList<QModelIndex> valid;
+  for (const QModelIndex& index : list)
+    (index.isValid() ? valid : invalid) << index;
+  std::stable_sort(valid.begin(), valid.end(), orq_tree_order_indexes);
+  return invalid << valid;
+}
+
+// Sorts list twice, once as the only holder of its data and once while a
+// copy shares it, and tells whether both give what the relation gives.
+bool sorts_like_the_relation(const ORQ_TREE_MODEL& model, const QList<QModelIndex>& list)
+{
+  const QList<QModelIndex> expected = sorted_by_the_relation(list);
+  QList<QModelIndex> alone;
+  alone.reserve(list.size());
+  for (const QModelIndex& index : list)
+    alone.append(index);
+  model.sort_index_list_by_positions(alone);
+  QList<QModelIndex> shared = list;
+  model.sort_index_list_by_positions(shared);
+  return alone == expected && shared == expected;
+}
+
+// A hierarchy like a design's: each row goes below a random earlier row (or
+// the top), in up to depth levels; rows have 1 to columns cells, the model as
+// many columns as its widest row, so shorter rows have empty cells.
+struct SHAPE {
+  int rows;
+  int depth;
+  int columns;
+  bool below_other_columns; // some rows hang below a cell of another column
+  bool chain;               // every row below the one before
+};
+
+void fill_shaped(QStandardItemModel& model, const SHAPE& shape, QRandomGenerator& random)
+{
+  QList<QStandardItem*> open{model.invisibleRootItem()};
+  QList<int> depth{-1};
+  for (int i = 0; i < shape.rows; ++i) {
+    const int pick = shape.chain ? open.size() - 1 : int(random.bounded(open.size()));
+    QList<QStandardItem*> row{new QStandardItem(QString::number(i))};
+    for (int c = int(random.bounded(shape.columns)); c > 0; --c)
+      row << new QStandardItem(QStringLiteral("c"));
+    open[pick]->appendRow(row);
+    const int level = depth[pick] + 1; // of the new row, 0 at the top
+    if (level + 1 >= shape.depth)
+      continue; // no room for rows below it
+    open << row.first();
+    depth << level;
+    if (shape.below_other_columns && row.size() > 1 && random.bounded(20) == 0) {
+      open << row.last();
+      depth << level;
+    }
+  }
+}
+
+// Every valid index, empty cells and rows below any column included.
+QList<QModelIndex> every_index(const QAbstractItemModel& model, const QModelIndex& parent = {})
+{
+  QList<QModelIndex> found;
+  for (int r = 0; r < model.rowCount(parent); ++r)
+    for (int c = 0; c < model.columnCount(parent); ++c) {
+      const QModelIndex cell = model.index(r, c, parent);
+      found << cell;
+      if (model.hasChildren(cell))
+        found << every_index(model, cell);
+    }
+  return found;
 }
 
 } // namespace
@@ -280,6 +355,149 @@ private slots:
     }
     tree.model.sort_index_list_by_positions(list);
     QCOMPARE(names(list), sorted);
+  }
+
+  void sort_by_positions_of_every_short_list_matches_the_relation_data()
+  {
+    QTest::addColumn<bool>("below_a_second_column");
+    QTest::newRow("rows below column 0 only") << false;
+    QTest::newRow("a row below a second column") << true;
+  }
+
+  void sort_by_positions_of_every_short_list_matches_the_relation()
+  {
+    // Every list of two to five entries drawn from a row, its second cell,
+    // its child and grandchild, another row's second cell, an empty cell and
+    // an invalid index: duplicates and cells that compare neither way, in
+    // every order. A row below a second column replaces one of them.
+    QFETCH(bool, below_a_second_column);
+    TREE tree(QStringLiteral("[A[B[X] C] D]"));
+    tree.model.setColumnCount(3); // D's third cell stays empty
+    QList<QModelIndex> letters{tree.at(QStringLiteral("A")),
+                               tree.at(QStringLiteral("A"), 1),
+                               tree.at(QStringLiteral("B")),
+                               tree.at(QStringLiteral("X")),
+                               tree.at(QStringLiteral("C"), 1),
+                               tree.model.index(1, 2),
+                               QModelIndex()};
+    if (below_a_second_column) {
+      const QModelIndex b_1 = tree.at(QStringLiteral("B"), 1);
+      tree.model.itemFromIndex(b_1)->appendRow(new QStandardItem(QStringLiteral("Y")));
+      letters[4] = tree.model.index(0, 0, b_1);
+    }
+    for (const QModelIndex& letter : qAsConst(letters).mid(0, 6))
+      QVERIFY(letter.isValid());
+    QVERIFY(!tree.model.itemFromIndex(letters[5]) || tree.model.itemFromIndex(letters[5])->text().isEmpty());
+    int lists = 0;
+    for (int length = 2; length <= 5; ++length) {
+      QVector<int> digits(length, 0);
+      for (;;) {
+        QList<QModelIndex> list;
+        for (const int digit : qAsConst(digits))
+          list << letters[digit];
+        QVERIFY2(sorts_like_the_relation(tree.model, list), qPrintable(names(list)));
+        ++lists;
+        int at = 0;
+        while (at < length && ++digits[at] == letters.size())
+          digits[at++] = 0;
+        if (at == length)
+          break;
+      }
+    }
+    QCOMPARE(lists, 49 + 343 + 2401 + 16807);
+  }
+
+  void sort_by_positions_of_large_lists_matches_the_relation_data()
+  {
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("depth");
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<bool>("below_other_columns");
+    QTest::addColumn<bool>("chain");
+    QTest::addColumn<QString>("pick"); // rows, cells or whole rows
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<int>("repeated"); // per cent of entries listed again
+    QTest::addColumn<int>("invalid");  // per cent
+    QTest::newRow("rows of a deep tree") << 4000 << 8 << 2 << false << false << "rows" << 4000 << 0 << 0;
+    QTest::newRow("some rows of a deep tree and invalid entries")
+        << 4000 << 8 << 2 << false << false << "rows" << 1500 << 0 << 5;
+    QTest::newRow("rows listed twice") << 3000 << 8 << 2 << false << false << "rows" << 3000 << 10 << 2;
+    QTest::newRow("whole rows") << 2000 << 8 << 3 << false << false << "whole rows" << 1200 << 0 << 0;
+    QTest::newRow("whole rows of wide rows, some twice")
+        << 1500 << 6 << 12 << false << false << "whole rows" << 400 << 5 << 3;
+    QTest::newRow("cells anywhere, empty ones too")
+        << 2000 << 8 << 4 << false << false << "cells" << 3000 << 0 << 3;
+    QTest::newRow("rows below cells of other columns")
+        << 2000 << 8 << 3 << true << false << "cells" << 3000 << 5 << 3;
+    QTest::newRow("rows of a flat list") << 3000 << 1 << 2 << false << false << "rows" << 3000 << 0 << 0;
+    QTest::newRow("whole rows of a flat list, some twice")
+        << 2000 << 1 << 3 << false << false << "whole rows" << 1000 << 10 << 0;
+    QTest::newRow("cells of a flat list") << 3000 << 1 << 3 << false << false << "cells" << 3000 << 0 << 0;
+    QTest::newRow("rows of one long chain") << 1500 << 1500 << 2 << false << true << "rows" << 400 << 3 << 0;
+  }
+
+  void sort_by_positions_of_large_lists_matches_the_relation()
+  {
+    QFETCH(int, rows);
+    QFETCH(int, depth);
+    QFETCH(int, columns);
+    QFETCH(bool, below_other_columns);
+    QFETCH(bool, chain);
+    QFETCH(QString, pick);
+    QFETCH(int, entries);
+    QFETCH(int, repeated);
+    QFETCH(int, invalid);
+    for (quint32 seed = 1; seed <= quint32(orq_test_rounds(4, 1)); ++seed) {
+      QRandomGenerator random(seed);
+      ORQ_TREE_MODEL model;
+      fill_shaped(model, {rows, depth, columns, below_other_columns, chain}, random);
+      QList<QModelIndex> list;
+      if (pick == QLatin1String("cells")) {
+        const QList<QModelIndex> cells = every_index(model);
+        for (int i = 0; i < entries; ++i)
+          list << cells[int(random.bounded(cells.size()))];
+      } else {
+        QList<QModelIndex> row_heads;
+        for (QModelIndex i = model.index(0, 0); i.isValid(); i = model.get_next(i))
+          row_heads << i;
+        std::shuffle(row_heads.begin(), row_heads.end(), random);
+        for (const QModelIndex& head : row_heads.mid(0, entries)) {
+          const int cells = pick == QLatin1String("rows") ? 1 : model.columnCount(head.parent());
+          for (int c = 0; c < cells; ++c)
+            list << head.siblingAtColumn(c);
+        }
+        std::shuffle(list.begin(), list.end(), random);
+      }
+      for (int i = list.size() * repeated / 100; i > 0; --i) {
+        const QModelIndex again = list[int(random.bounded(list.size()))];
+        list.insert(int(random.bounded(list.size() + 1)), again);
+      }
+      for (int i = list.size() * invalid / 100; i > 0; --i)
+        list.insert(int(random.bounded(list.size() + 1)), QModelIndex());
+      QVERIFY2(sorts_like_the_relation(model, list), qPrintable(QStringLiteral("seed %1").arg(seed)));
+    }
+  }
+
+  void sort_by_positions_of_another_models_indexes_matches_the_relation()
+  {
+    // Indexes of other models sort among themselves by the plain rule.
+    ORQ_TREE_MODEL tree;
+    QRandomGenerator random(5);
+    fill_shaped(tree, {600, 6, 3, false, false}, random);
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&tree);
+    QStandardItemModel plain;
+    fill_shaped(plain, {600, 6, 3, true, false}, random);
+    const ORQ_TREE_MODEL sorter;
+    for (const QAbstractItemModel* model :
+         {static_cast<const QAbstractItemModel*>(&proxy), static_cast<const QAbstractItemModel*>(&plain)}) {
+      const QList<QModelIndex> cells = every_index(*model);
+      QList<QModelIndex> list;
+      for (int i = 0; i < 1500; ++i)
+        list << (random.bounded(30) == 0 ? QModelIndex() : cells[int(random.bounded(cells.size()))]);
+      QVERIFY(sorts_like_the_relation(sorter, list));
+      QVERIFY(sorts_like_the_relation(tree, list));
+    }
   }
 
   void sort_by_positions_matches_a_stable_sort_with_the_relation()
