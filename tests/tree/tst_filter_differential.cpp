@@ -219,7 +219,7 @@ private slots:
   {
     QTest::addColumn<quint32>("seed");
     QTest::addColumn<bool>("with_views");
-    for (quint32 seed = 1; seed <= quint32(orq_test_rounds(12, 2)); ++seed) {
+    for (quint32 seed = 1; seed <= quint32(orq_test_rounds(12, 1)); ++seed) {
       QTest::addRow("seed %u", seed) << seed << false;
       QTest::addRow("seed %u, expanded views", seed) << seed << true;
     }
@@ -232,7 +232,7 @@ private slots:
     CASE test(seed, with_views);
     const QList<QList<int>> column_lists{{}, {0}, {1, 0}, {0, 0}, {2}, {1}};
     const QList<int> key_columns{0, 0, 1, -1, 7};
-    const int steps = orq_test_rounds(9, 4);
+    const int steps = orq_test_rounds(9, 3);
     int checks = 0;
     for (int combination = 0; combination < 8; ++combination) {
       const bool include_child = combination & 1;
@@ -247,15 +247,14 @@ private slots:
         const QString input = inputs.at(int(test.random.bounded(inputs.size())));
         if (test.random.bounded(6) == 0)
           test.edit();
-        const bool edited = false;
         test.filter(input, filter || test.random.bounded(5) == 0);
-        const unsigned ours_before = test.ours->get_search_result_count(), plain_before = test.plain.count;
-        const QString context = QStringLiteral("input '%1' key %2 columns %3 child %4 root %5")
+        const QString context = QStringLiteral("input '%1' key %2 columns %3 child %4 root %5 step %6")
                                     .arg(input)
                                     .arg(key)
                                     .arg(columns.size())
                                     .arg(include_child)
-                                    .arg(include_root) + QStringLiteral(" step %1 before %2/%3 edited %4").arg(step).arg(ours_before).arg(plain_before).arg(edited);
+                                    .arg(include_root)
+                                    .arg(step);
         QCOMPARE(kept_tree(*test.ours), kept_tree(test.plain));
         QVERIFY2(test.ours->get_search_result_count() == test.plain.count,
                  qPrintable(context + QStringLiteral(": count %1, rule %2")

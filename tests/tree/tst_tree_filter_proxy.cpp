@@ -305,7 +305,7 @@ private slots:
   {
     QTest::addColumn<int>("modules");
     QTest::addColumn<bool>("reset");
-    QTest::newRow("small tree, views kept") << 20 << false;
+    QTest::newRow("small tree, views kept") << 8 << false;
     QTest::newRow("large tree, views reset") << 40 << true;
   }
 
