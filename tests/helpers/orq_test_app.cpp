@@ -10,6 +10,7 @@
 //   orq_test_app start-up           full start-up and shutdown, print the settings problem
 //   orq_test_app theme-before-app   a theme colour asked for before the application exists
 //   orq_test_app theme-after-app    a theme colour asked for after the application ended
+//   orq_test_app tool-bar-icons     the tool-bar icon size chosen for the screen, and what was stored
 #include <orq.h>
 
 #include <gen_internal_error.h>
@@ -18,8 +19,10 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTest>
 #include <QThread>
 #include <QVBoxLayout>
@@ -105,6 +108,16 @@ int run(ORQ_APP& app, const QStringList& args)
     std::printf("title=%s\n", qPrintable(dialog->windowTitle()));
     std::printf("visible=%d\n", dialog->isVisible() ? 1 : 0);
     std::printf("text=%s\n", qPrintable(dialog->findChild<QPlainTextEdit*>()->toPlainText()));
+    return 0;
+  }
+  if (mode == QLatin1String("tool-bar-icons")) {
+    const bool large = ORQ_TOOL_BAR::get_large_icon_setting(nullptr);
+    bool stored = false;
+    const bool has_stored = gen_settings().get_group_bool(59, QStringLiteral("large_icons"), &stored);
+    gen_settings().sync();
+    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    std::printf("screen=%dx%d\nlarge=%d\nstored=%s\n", screen.width(), screen.height(), large ? 1 : 0,
+                has_stored ? (stored ? "true" : "false") : "none");
     return 0;
   }
   if (mode == QLatin1String("theme-after-app")) {
