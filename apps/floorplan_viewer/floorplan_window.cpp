@@ -1,12 +1,12 @@
 #include "floorplan_window.h"
 
 #include "floorplan_widget.h"
-#include "hierarchy_panel.h"
 
 #include <orq.h>
 
 #include <gen_help.h>
 #include <gen_machine_info.h>
+#include <gen_message_service.h>
 #include <gen_settings.h>
 #include <gen_tcl.h>
 #include <gen_undo_redo_mgr.h>
@@ -15,12 +15,14 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMdiSubWindow>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUndoCommand>
@@ -30,6 +32,11 @@
 
 namespace {
 const QString k_settings_key = QStringLiteral("FloorplanViewer");
+// Saved layouts of another version are not restored; raise it when the
+// panels change in a way an old layout would get wrong.
+constexpr int k_layout_version = 1;
+// Settings group of the document area's tab choice.
+constexpr int k_mdi_tabs_group = 2;
 
 // ::fpv::status text: shows text in the status bar, so that Tcl commands of
 // the suite can talk back to the viewer.
@@ -64,17 +71,28 @@ private:
 };
 } // namespace
 
-FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows)
-    : m_view(new FLOORPLAN_WIDGET(this))
+FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows, bool restore_layout)
+    : m_mdi(new ORQ_MDI_AREA(this))
+    , m_view(new FLOORPLAN_WIDGET)
     , m_hover(new QLabel(this))
     , m_seed(seed)
     , m_block_count(block_count)
 {
   setObjectName(QStringLiteral("floorplan_viewer"));
   setWindowTitle(QStringLiteral("Floor Plan Viewer"));
-  setCentralWidget(m_view);
+  m_mdi->setObjectName(QStringLiteral("documents"));
+  setCentralWidget(m_mdi);
   m_view->set_floorplan(make_floorplan(m_seed, m_block_count));
-  build_menus();
+  // Two documents, so the area has tabs to show: the plan and its blocks.
+  auto* blocks = new QPlainTextEdit;
+  blocks->setObjectName(QStringLiteral("block_list"));
+  blocks->setReadOnly(true);
+  for (const FLOORPLAN_BLOCK& block : make_floorplan(m_seed, m_block_count).blocks)
+    blocks->appendPlainText(QStringLiteral("%1\t%2").arg(block.name, block.cell));
+  m_mdi->addSubWindow(blocks)->setWindowTitle(QStringLiteral("Blocks"));
+  QMdiSubWindow* plan = m_mdi->addSubWindow(m_view);
+  plan->setWindowTitle(QStringLiteral("Floor Plan"));
+  plan->setObjectName(QStringLiteral("floorplan_document"));
 
   statusBar()->addWidget(m_hover, 1);
   QString tcl_version;
@@ -85,22 +103,57 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy
                                                  .arg(tcl_version),
                                              this));
   m_hover->setText(QStringLiteral("Ready"));
-  if (hierarchy_rows > 0) {
-    // A plain dock for now; the design's instances, filtered as one types.
-    auto* dock = new QDockWidget(QStringLiteral("Design Hierarchy"), this);
-    dock->setObjectName(QStringLiteral("hierarchy_dock"));
-    m_hierarchy = new HIERARCHY_PANEL(hierarchy_rows, seed, dock);
-    dock->setWidget(m_hierarchy);
-    addDockWidget(Qt::LeftDockWidgetArea, dock);
-    auto* count = new QLabel(m_hierarchy->status_text(), this);
-    count->setObjectName(QStringLiteral("hierarchy_status"));
-    statusBar()->addPermanentWidget(count);
-    connect(m_hierarchy, &HIERARCHY_PANEL::status_changed, count, &QLabel::setText);
-  }
+  create_panels(hierarchy_rows);
+  build_menus();
   register_tcl_commands();
   orq_safe_connect(m_view, SIGNAL(block_hovered(QString)), m_hover, SLOT(setText(QString)),
                    Qt::AutoConnection, __FILE__, __LINE__);
+  resize(1280, 800);
+  m_default_layout = saveState(k_layout_version);
   restore_geometry();
+  if (restore_layout)
+    restore_panel_layout();
+  m_mdi->setActiveSubWindow(plan);
+}
+
+void FLOORPLAN_WINDOW::create_panels(int hierarchy_rows)
+{
+  // The panels live in a library of their own, found and loaded by the
+  // dock manager the way the suite's tools contribute theirs.
+  setProperty("fpv_hierarchy_rows", hierarchy_rows);
+  setProperty("fpv_seed", m_seed);
+  ORQ_DOCK_MGR* docks = get_dock_mgr();
+  docks->set_module(ORQ_DOCK_PROJECT_HIERARCHY, QStringLiteral("fpv_panels:hierarchy"));
+  docks->set_module(ORQ_DOCK_MESSAGES, QStringLiteral("fpv_panels:messages"));
+  docks->set_module(ORQ_DOCK_TCL_CONSOLE, QStringLiteral("fpv_panels:tcl_console"));
+  const struct {
+    ORQ_DOCK_ENUM which;
+    Qt::DockWidgetArea area;
+  } panels[] = {{ORQ_DOCK_PROJECT_HIERARCHY, Qt::LeftDockWidgetArea},
+                {ORQ_DOCK_MESSAGES, Qt::BottomDockWidgetArea},
+                {ORQ_DOCK_TCL_CONSOLE, Qt::RightDockWidgetArea}};
+  for (const auto& row : panels) {
+    if (row.which == ORQ_DOCK_PROJECT_HIERARCHY && hierarchy_rows <= 0)
+      continue;
+    // A missing library has been reported by the manager; the window goes on
+    // without that panel.
+    ORQ_DOCK_WIDGET* dock = docks->create_dock_widget(row.which, this);
+    if (!dock)
+      continue;
+    addDockWidget(row.area, dock);
+    m_panels.append(dock);
+    if (row.which == ORQ_DOCK_PROJECT_HIERARCHY)
+      m_hierarchy = dock->widget();
+  }
+  if (m_hierarchy) {
+    QString text;
+    QMetaObject::invokeMethod(m_hierarchy, "status_text", Q_RETURN_ARG(QString, text));
+    auto* count = new QLabel(text, this);
+    count->setObjectName(QStringLiteral("hierarchy_status"));
+    statusBar()->addPermanentWidget(count);
+    orq_safe_connect(m_hierarchy, SIGNAL(status_changed(QString)), count, SLOT(setText(QString)),
+                     Qt::AutoConnection, __FILE__, __LINE__);
+  }
 }
 
 FLOORPLAN_WINDOW::~FLOORPLAN_WINDOW()
@@ -133,9 +186,78 @@ QString FLOORPLAN_WINDOW::status_text() const
   return m_hover->text();
 }
 
-HIERARCHY_PANEL* FLOORPLAN_WINDOW::hierarchy_panel() const
+QWidget* FLOORPLAN_WINDOW::hierarchy_panel() const
 {
   return m_hierarchy;
+}
+
+ORQ_DOCK_WIDGET* FLOORPLAN_WINDOW::panel(const QString& name) const
+{
+  for (ORQ_DOCK_WIDGET* dock : m_panels)
+    if (dock->objectName() == name || dock->windowTitle() == name)
+      return dock;
+  return nullptr;
+}
+
+QList<ORQ_DOCK_WIDGET*> FLOORPLAN_WINDOW::panels() const
+{
+  return m_panels;
+}
+
+bool FLOORPLAN_WINDOW::change_panel(const QString& verb, const QString& name)
+{
+  ORQ_DOCK_WIDGET* dock = panel(name);
+  if (!dock)
+    return false;
+  if (verb == QLatin1String("unpin") || verb == QLatin1String("pin")) {
+    if (dock->is_pinned() != (verb == QLatin1String("pin")))
+      dock->get_titlebar()->toggle_pin(verb == QLatin1String("pin"));
+  } else if (verb == QLatin1String("slide-out")) {
+    if (dock->is_pinned() || !dock->get_button())
+      return false;
+    if (!dock->get_button()->isChecked())
+      dock->get_button()->click();
+  } else if (verb == QLatin1String("float")) {
+    dock->setFloating(true);
+    dock->resize(380, 260);
+    dock->move(geometry().topLeft() + QPoint(width() - 560, 150));
+  } else if (verb == QLatin1String("close")) {
+    dock->close_widget();
+  } else if (verb == QLatin1String("open")) {
+    dock->show();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+QImage FLOORPLAN_WINDOW::grab_with_floating_panels()
+{
+  QList<ORQ_DOCK_WIDGET*> floating;
+  QRect bounds = geometry();
+  for (ORQ_DOCK_WIDGET* dock : qAsConst(m_panels)) {
+    if (dock->isFloating() && dock->isVisible()) {
+      floating << dock;
+      bounds |= dock->geometry();
+    }
+  }
+  const QImage window = grab().toImage();
+  if (floating.isEmpty())
+    return window;
+  // Floating panels are windows of their own; they are drawn where they
+  // stand over the main window, on the desktop's grey.
+  QImage canvas(bounds.size(), QImage::Format_RGB32);
+  canvas.fill(QColor(0x50, 0x55, 0x5c));
+  QPainter painter(&canvas);
+  painter.drawImage(geometry().topLeft() - bounds.topLeft(), window);
+  for (ORQ_DOCK_WIDGET* dock : qAsConst(floating)) {
+    const QPoint at = dock->geometry().topLeft() - bounds.topLeft();
+    painter.fillRect(QRect(at + QPoint(4, 4), dock->size()), QColor(0, 0, 0, 90)); // shadow
+    painter.drawImage(at, dock->grab().toImage());
+    painter.setPen(QColor(0x30, 0x30, 0x30));
+    painter.drawRect(QRect(at, dock->size()).adjusted(0, 0, -1, -1));
+  }
+  return canvas;
 }
 
 void FLOORPLAN_WINDOW::set_seed(unsigned seed)
@@ -151,6 +273,26 @@ void FLOORPLAN_WINDOW::regenerate()
     app->get_undo_redo_mgr()->push(new SEED_COMMAND(this, m_seed, m_seed * 1103515245u + 12345u));
   else
     set_seed(m_seed + 1);
+}
+
+QAction* FLOORPLAN_WINDOW::add_panel_action(QMenu* menu, ORQ_ACTION_ENUM id, ORQ_DOCK_WIDGET* dock)
+{
+  // Checked while the panel is open, pinned or not; the text is the panel's
+  // title, so the panel's bar button finds the same icon.
+  QAction* action = add_standard_action(menu, id);
+  action->setCheckable(true);
+  action->setChecked(!dock->is_closed());
+  connect(action, &QAction::toggled, dock, [dock](bool on) {
+    if (on && dock->is_closed())
+      dock->open_widget();
+    else if (!on && !dock->is_closed())
+      dock->close_widget();
+  });
+  connect(dock, &ORQ_DOCK_WIDGET::dock_widget_active_state_changed, action, [action, dock] {
+    const QSignalBlocker quiet(action);
+    action->setChecked(!dock->is_closed());
+  });
+  return action;
 }
 
 QAction* FLOORPLAN_WINDOW::add_standard_action(QMenu* menu, ORQ_ACTION_ENUM id)
@@ -215,6 +357,31 @@ void FLOORPLAN_WINDOW::build_menus()
                                        : &FLOORPLAN_WIDGET::set_show_block_names);
   }
 
+  view->addSeparator();
+  const struct {
+    ORQ_ACTION_ENUM id;
+    const char* panel;
+  } panel_actions[] = {{ORQ_SHOW_HIERARCHY_ACTION, "hierarchy_dock"},
+                       {ORQ_SHOW_MESSAGES_ACTION, "messages_dock"},
+                       {ORQ_TCL_CONSOLE_ACTION, "tcl_console_dock"}};
+  for (const auto& row : panel_actions)
+    if (ORQ_DOCK_WIDGET* dock = panel(QString::fromLatin1(row.panel)))
+      add_panel_action(view, row.id, dock);
+  view->addSeparator();
+  QAction* tabbed = add_standard_action(view, ORQ_TABBED_DOCUMENTS_ACTION);
+  tabbed->setCheckable(true);
+  bool tabs = true;
+  gen_settings().get_group_bool(k_mdi_tabs_group, QStringLiteral("mdi_tabs"), &tabs);
+  tabbed->setChecked(tabs);
+  connect(tabbed, &QAction::toggled, this, [this](bool on) {
+    gen_settings().set_group_bool(k_mdi_tabs_group, QStringLiteral("mdi_tabs"), on);
+    m_mdi->set_tabs();
+    if (!on)
+      m_mdi->tileSubWindows();
+  });
+  connect(add_standard_action(view, ORQ_RESET_LAYOUT_ACTION), &QAction::triggered, this,
+          &FLOORPLAN_WINDOW::reset_layout);
+
   QMenu* tools = menuBar()->addMenu(QStringLiteral("&Tools"));
   QAction* planner = add_standard_action(tools, ORQ_START_PARTITION_PLANNER_ACTION);
   QAction* options = add_standard_action(tools, ORQ_OPTIONS_ACTION);
@@ -235,7 +402,8 @@ void FLOORPLAN_WINDOW::build_menus()
     box.exec();
   });
 
-  QToolBar* bar = addToolBar(QStringLiteral("Standard"));
+  auto* bar = new ORQ_TOOL_BAR(QStringLiteral("Standard"), this);
+  addToolBar(Qt::TopToolBarArea, bar);
   bar->setObjectName(QStringLiteral("standard_tool_bar"));
   bar->addAction(export_image);
   bar->addSeparator();
@@ -285,9 +453,95 @@ void FLOORPLAN_WINDOW::restore_geometry()
     resize(1280, 800);
 }
 
+void FLOORPLAN_WINDOW::restore_panel_layout()
+{
+  const QVariant saved = gen_settings().value(k_settings_key, QStringLiteral("layout"));
+  if (!saved.isValid())
+    return;
+  const QByteArray state = saved.toByteArray();
+  if (state.isEmpty() || !restoreState(state, k_layout_version)) {
+    fall_back_to_default_layout(QStringLiteral("it is damaged or comes from another version"));
+    return;
+  }
+  // Every entry is checked before any is applied: half a layout is worse
+  // than the default one.
+  struct ENTRY {
+    ORQ_DOCK_WIDGET* dock;
+    bool pinned;
+    bool closed;
+  };
+  QList<ENTRY> entries;
+  const QStringList saved_panels = gen_settings().value(k_settings_key, QStringLiteral("panels")).toStringList();
+  for (const QString& line : saved_panels) {
+    const QStringList fields = line.split(QLatin1Char('|'));
+    bool pinned_ok = false;
+    bool closed_ok = false;
+    const int pinned = fields.value(1).toInt(&pinned_ok);
+    const int closed = fields.value(2).toInt(&closed_ok);
+    if (fields.size() != 3 || !pinned_ok || !closed_ok || pinned < 0 || pinned > 1 || closed < 0 || closed > 1) {
+      fall_back_to_default_layout(QStringLiteral("it is damaged"));
+      return;
+    }
+    ORQ_DOCK_WIDGET* dock = panel(fields.at(0));
+    if (!dock) {
+      fall_back_to_default_layout(QStringLiteral("the panel \"%1\" no longer exists").arg(fields.at(0)));
+      return;
+    }
+    entries.append({dock, pinned == 1, closed == 1});
+  }
+  for (const ENTRY& entry : qAsConst(entries)) {
+    if (entry.closed)
+      entry.dock->close_widget();
+    else if (!entry.pinned && !entry.dock->isFloating())
+      entry.dock->get_titlebar()->toggle_pin(false);
+  }
+  // The state brings back the bars as they were shown; only bars with
+  // buttons stay.
+  for (ORQ_DOCK_WIDGET_BUTTON_BAR* bar : get_dock_bar_of_area())
+    if (bar->get_button_action_map().isEmpty())
+      bar->hide();
+}
+
+void FLOORPLAN_WINDOW::save_panel_layout()
+{
+  QStringList panels;
+  for (ORQ_DOCK_WIDGET* dock : qAsConst(m_panels))
+    panels << QStringLiteral("%1|%2|%3")
+                  .arg(dock->objectName())
+                  .arg(dock->is_pinned() ? 1 : 0)
+                  .arg(dock->is_closed() ? 1 : 0);
+  gen_settings().set_value(k_settings_key, QStringLiteral("layout"), saveState(k_layout_version));
+  gen_settings().set_value(k_settings_key, QStringLiteral("panels"), panels);
+}
+
+void FLOORPLAN_WINDOW::fall_back_to_default_layout(const QString& why)
+{
+  reset_layout();
+  const QString text =
+      QStringLiteral("The saved window layout could not be restored (%1); the default layout is used.").arg(why);
+  gen_message_service().warning(text);
+  m_hover->setText(text);
+}
+
+void FLOORPLAN_WINDOW::reset_layout()
+{
+  for (ORQ_DOCK_WIDGET* dock : qAsConst(m_panels)) {
+    if (dock->isFloating())
+      dock->setFloating(false);
+    if (!dock->is_pinned() && !dock->is_closed())
+      dock->get_titlebar()->toggle_pin(true);
+    dock->show();
+  }
+  restoreState(m_default_layout, k_layout_version);
+  for (ORQ_DOCK_WIDGET_BUTTON_BAR* bar : get_dock_bar_of_area())
+    if (bar->get_button_action_map().isEmpty())
+      bar->hide();
+}
+
 void FLOORPLAN_WINDOW::closeEvent(QCloseEvent* event)
 {
   gen_settings().set_value(k_settings_key, QStringLiteral("geometry"), saveGeometry());
+  save_panel_layout();
   gen_settings().sync();
   ORQ_MAIN_WINDOW::closeEvent(event);
 }

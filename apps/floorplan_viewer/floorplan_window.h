@@ -7,8 +7,9 @@
 #include <QList>
 
 class FLOORPLAN_WIDGET;
-class HIERARCHY_PANEL;
 class ORQ_DIALOG;
+class ORQ_DOCK_WIDGET;
+class ORQ_MDI_AREA;
 class QAction;
 class QLabel;
 class QMenu;
@@ -16,18 +17,31 @@ class QMenu;
 class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
   Q_OBJECT
 public:
-  // hierarchy_rows 0 leaves the design-hierarchy panel out.
-  FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows = 0);
+  // hierarchy_rows 0 leaves the design-hierarchy panel out. The panels come
+  // from the viewer's panel library; restore_layout false starts from the
+  // default arrangement whatever was saved.
+  FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows = 0, bool restore_layout = true);
   ~FLOORPLAN_WINDOW() override;
 
   unsigned seed() const;
   // What the left of the status bar says.
   QString status_text() const;
-  HIERARCHY_PANEL* hierarchy_panel() const;
+  // The hierarchy panel of the panel library, or null.
+  QWidget* hierarchy_panel() const;
+  // The panels by object name or title, or null.
+  ORQ_DOCK_WIDGET* panel(const QString& name) const;
+  QList<ORQ_DOCK_WIDGET*> panels() const;
+  // Pin, unpin, slide out, float, close or open a panel as the user does;
+  // false for an unknown panel or verb.
+  bool change_panel(const QString& verb, const QString& name);
+  // The window with its floating panels, as they stand on the screen.
+  QImage grab_with_floating_panels();
   void set_seed(unsigned seed);
 
 public slots:
   void regenerate();
+  // View > Reset Layout: panels docked, pinned and open where they started.
+  void reset_layout();
   // Tools > Options: the theme colours and fonts. Returns the dialog result.
   int open_options();
   // The Options dialog, built but not run (for screenshots and tests).
@@ -41,9 +55,17 @@ private:
   void register_tcl_commands();
   QAction* add_standard_action(QMenu* menu, ORQ_ACTION_ENUM id);
   void restore_geometry();
+  void create_panels(int hierarchy_rows);
+  void restore_panel_layout();
+  void save_panel_layout();
+  void fall_back_to_default_layout(const QString& why);
+  QAction* add_panel_action(QMenu* menu, ORQ_ACTION_ENUM id, ORQ_DOCK_WIDGET* dock);
 
+  ORQ_MDI_AREA* m_mdi;
   FLOORPLAN_WIDGET* m_view;
-  HIERARCHY_PANEL* m_hierarchy = nullptr;
+  QWidget* m_hierarchy = nullptr;
+  QList<ORQ_DOCK_WIDGET*> m_panels;
+  QByteArray m_default_layout;
   QLabel* m_hover;
   QList<QAction*> m_undo_redo;
   unsigned m_seed;

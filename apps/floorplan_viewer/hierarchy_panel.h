@@ -1,6 +1,7 @@
 #pragma once
 // The design-hierarchy panel: a generated hierarchy in a tree view, filtered
-// as the user types, with the matching rows highlighted.
+// as the user types, with the matching rows highlighted. It lives in the
+// viewer's panel library; the window reaches it through its meta-object.
 #include <QWidget>
 
 class ORQ_LINE_EDIT_FILTER;
@@ -16,12 +17,12 @@ public:
   HIERARCHY_PANEL(int rows, unsigned seed, QWidget* parent);
 
   // Sets the filter text and filters at once, without the typing delay.
-  void filter_now(const QString& text);
+  Q_INVOKABLE void filter_now(const QString& text);
   // "Hierarchy: N rows", and "| M matches" while a filter is on.
-  QString status_text() const;
+  Q_INVOKABLE QString status_text() const;
   QSize sizeHint() const override;
   // Writes every generated row as "instance<TAB>cell" (for tests).
-  bool dump(const QString& file_name) const;
+  Q_INVOKABLE bool dump(const QString& file_name) const;
 
 signals:
   void status_changed(const QString& text);

@@ -2,7 +2,6 @@
 // --screenshot FILE to render the main window to a PNG and exit, or with
 // --icons FILE to render a sheet of every icon of the catalogue.
 #include "floorplan_window.h"
-#include "hierarchy_panel.h"
 #include "icon_sheet.h"
 
 #include <orq.h>
@@ -54,7 +53,17 @@ int main(int argc, char** argv)
   const QCommandLineOption dump(QStringLiteral("dump-hierarchy"),
                                 QStringLiteral("Write the generated hierarchy, one instance and cell a line."),
                                 QStringLiteral("file"));
-  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger, hierarchy_rows, filter, dump});
+  const QCommandLineOption panel(
+      QStringLiteral("panel"),
+      QStringLiteral("Change a panel as the user would, before the screenshot: unpin, pin, slide-out, float, "
+                     "close or open, then ':' and the panel's title or object name (\"unpin:Messages\"); may be "
+                     "repeated."),
+      QStringLiteral("verb:panel"));
+  const QCommandLineOption default_layout(QStringLiteral("default-layout"),
+                                          QStringLiteral("Start with the default arrangement of the panels, "
+                                                         "whatever layout was saved."));
+  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger, hierarchy_rows, filter, dump, panel,
+                     default_layout});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -66,15 +75,31 @@ int main(int argc, char** argv)
   }
 
   FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24),
-                          qBound(0, parser.value(hierarchy_rows).toInt(), 5000000));
+                          qBound(0, parser.value(hierarchy_rows).toInt(), 5000000), !parser.isSet(default_layout));
   window.show();
   int rc = 0;
-  if (parser.isSet(dump) && (!window.hierarchy_panel() || !window.hierarchy_panel()->dump(parser.value(dump)))) {
-    std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(parser.value(dump)));
-    rc = 1;
+  // The hierarchy panel comes from the panel library; it is reached through
+  // its meta-object, the viewer does not link its code.
+  QWidget* hierarchy = window.hierarchy_panel();
+  if (parser.isSet(dump)) {
+    bool written = false;
+    if (hierarchy)
+      QMetaObject::invokeMethod(hierarchy, "dump", Q_RETURN_ARG(bool, written), Q_ARG(QString, parser.value(dump)));
+    if (!written) {
+      std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(parser.value(dump)));
+      rc = 1;
+    }
   }
-  if (parser.isSet(filter) && window.hierarchy_panel())
-    window.hierarchy_panel()->filter_now(parser.value(filter));
+  if (parser.isSet(filter) && hierarchy)
+    QMetaObject::invokeMethod(hierarchy, "filter_now", Q_ARG(QString, parser.value(filter)));
+  for (const QString& change : parser.values(panel)) {
+    QCoreApplication::processEvents();
+    const int colon = change.indexOf(QLatin1Char(':'));
+    if (colon < 0 || !window.change_panel(change.left(colon), change.mid(colon + 1))) {
+      std::fprintf(stderr, "floorplan_viewer: cannot %s\n", qPrintable(change));
+      rc = 1;
+    }
+  }
 
   if (parser.isSet(options_shot)) {
     ORQ_DIALOG* dialog = window.make_options_dialog();
@@ -94,12 +119,22 @@ int main(int argc, char** argv)
   }
   if (parser.isSet(screenshot)) {
     QCoreApplication::processEvents();
+    // Panels that slid out or floated settle after a round of layout.
+    for (int i = 0; i < 3; ++i)
+      QCoreApplication::processEvents();
     std::printf("floorplan_viewer: status: %s\n", qPrintable(window.status_text()));
     std::printf("floorplan_viewer: seed: %u\n", window.seed());
-    if (window.hierarchy_panel())
-      std::printf("floorplan_viewer: hierarchy: %s\n", qPrintable(window.hierarchy_panel()->status_text()));
+    if (hierarchy) {
+      QString text;
+      QMetaObject::invokeMethod(hierarchy, "status_text", Q_RETURN_ARG(QString, text));
+      std::printf("floorplan_viewer: hierarchy: %s\n", qPrintable(text));
+    }
+    for (ORQ_DOCK_WIDGET* dock : window.panels())
+      std::printf("floorplan_viewer: panel: %s %s%s\n", qPrintable(dock->windowTitle()),
+                  dock->is_closed() ? "closed" : dock->isFloating() ? "floating" : dock->is_pinned() ? "pinned" : "auto-hidden",
+                  dock->isVisible() ? ", shown" : "");
     const QString file = parser.value(screenshot);
-    if (!window.grab().save(file, "PNG")) {
+    if (!window.grab_with_floating_panels().save(file, "PNG")) {
       std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));
       rc = 1;
     } else {
@@ -108,6 +143,8 @@ int main(int argc, char** argv)
   } else if (!parser.isSet(options_shot)) {
     rc = app.exec();
   }
+  // Closed as a user closes it, so a screenshot run keeps its layout too.
+  window.close();
   app.exit_instance();
   return rc;
 }
