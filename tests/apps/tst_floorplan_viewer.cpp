@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QSet>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
@@ -133,6 +134,98 @@ private slots:
     const QImage image(png);
     // Just inside the drawing, left of the die, below the menu bar.
     QCOMPARE(QColor(image.pixel(4, image.height() / 2)).name(), corner);
+  }
+
+  void panels_come_back_after_a_restart()
+  {
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QString out;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--panel"), QStringLiteral("unpin:Messages"), QStringLiteral("--panel"),
+                         QStringLiteral("close:Tcl Console"), QStringLiteral("--screenshot"), png},
+                        nullptr, &out),
+             0);
+    QVERIFY2(out.contains(QStringLiteral("panel: Messages auto-hidden\n")), qPrintable(out));
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}, nullptr, &out), 0);
+    QVERIFY2(out.contains(QStringLiteral("panel: Hierarchy pinned, shown\n")), qPrintable(out));
+    QVERIFY(out.contains(QStringLiteral("panel: Messages auto-hidden\n")));
+    QVERIFY(out.contains(QStringLiteral("panel: Tcl Console closed\n")));
+    // View > Reset Layout brings every panel back, docked and pinned.
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--trigger"), QStringLiteral("ORQ_RESET_LAYOUT_ACTION"),
+                         QStringLiteral("--screenshot"), png},
+                        nullptr, &out),
+             0);
+    for (const char* panel : {"Hierarchy", "Messages", "Tcl Console"})
+      QVERIFY2(out.contains(QStringLiteral("panel: %1 pinned, shown\n").arg(QLatin1String(panel))), qPrintable(out));
+  }
+
+  void a_layout_that_cannot_be_restored_gives_the_default_data()
+  {
+    QTest::addColumn<QString>("damage");
+    QTest::addColumn<QString>("why");
+    QTest::newRow("damaged window state") << "state" << "it is damaged or comes from another version";
+    QTest::newRow("state of another version") << "version" << "it is damaged or comes from another version";
+    QTest::newRow("a panel that no longer exists") << "ghost" << "the panel \"ghost_dock\" no longer exists";
+    QTest::newRow("damaged panel list") << "list" << "it is damaged";
+  }
+
+  void a_layout_that_cannot_be_restored_gives_the_default()
+  {
+    QFETCH(QString, damage);
+    QFETCH(QString, why);
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--panel"), QStringLiteral("unpin:Messages"), QStringLiteral("--panel"),
+                         QStringLiteral("float:Tcl Console"), QStringLiteral("--screenshot"), png}),
+             0);
+    {
+      QSettings settings(home.filePath(QStringLiteral(".config/Vantor/vantor_settings.ini")), QSettings::IniFormat);
+      const QString layout = QStringLiteral("FloorplanViewer/layout");
+      QByteArray state = settings.value(layout).toByteArray();
+      QVERIFY(state.size() > 8);
+      if (damage == QLatin1String("state"))
+        settings.setValue(layout, state.left(state.size() / 2) + QByteArray(40, '\x7f'));
+      else if (damage == QLatin1String("version"))
+        settings.setValue(layout, state.replace(4, 4, QByteArray::fromHex("00000063")));
+      else if (damage == QLatin1String("ghost"))
+        settings.setValue(QStringLiteral("FloorplanViewer/panels"),
+                          QStringList{QStringLiteral("hierarchy_dock|1|0"), QStringLiteral("ghost_dock|1|0")});
+      else
+        settings.setValue(QStringLiteral("FloorplanViewer/panels"), QStringList{QStringLiteral("messages_dock|x")});
+    }
+    QString err;
+    QString out;
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--screenshot"), png}, &err, &out), 0);
+    QVERIFY2(err.contains(QStringLiteral("The saved window layout could not be restored (%1); the default layout "
+                                         "is used.")
+                              .arg(why)),
+             qPrintable(err));
+    for (const char* panel : {"Hierarchy", "Messages", "Tcl Console"})
+      QVERIFY2(out.contains(QStringLiteral("panel: %1 pinned, shown\n").arg(QLatin1String(panel))), qPrintable(out));
+  }
+
+  void panels_slide_out_and_float_in_the_screenshot()
+  {
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QString out;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--panel"), QStringLiteral("unpin:Messages"), QStringLiteral("--panel"),
+                         QStringLiteral("slide-out:Messages"), QStringLiteral("--panel"),
+                         QStringLiteral("float:Tcl Console"), QStringLiteral("--screenshot"), png},
+                        nullptr, &out),
+             0);
+    QVERIFY2(out.contains(QStringLiteral("panel: Messages auto-hidden, shown\n")), qPrintable(out));
+    QVERIFY(out.contains(QStringLiteral("panel: Tcl Console floating, shown\n")));
+    QString err;
+    QCOMPARE(run_viewer(home.path(), {QStringLiteral("--panel"), QStringLiteral("slide-out:Nothing"),
+                                      QStringLiteral("--screenshot"), png},
+                        &err),
+             1);
+    QVERIFY(err.contains(QStringLiteral("floorplan_viewer: cannot slide-out:Nothing")));
   }
 
   // The panel's count is checked against the generated rows themselves,
