@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -114,6 +115,7 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy
   if (restore_layout)
     restore_panel_layout();
   m_mdi->setActiveSubWindow(plan);
+  qApp->installEventFilter(this);
 }
 
 void FLOORPLAN_WINDOW::create_panels(int hierarchy_rows)
@@ -158,6 +160,7 @@ void FLOORPLAN_WINDOW::create_panels(int hierarchy_rows)
 
 FLOORPLAN_WINDOW::~FLOORPLAN_WINDOW()
 {
+  qApp->removeEventFilter(this);
   Tcl_DeleteCommand(gen_tcl().interp(), "::fpv::status");
 }
 
@@ -536,6 +539,17 @@ void FLOORPLAN_WINDOW::reset_layout()
   for (ORQ_DOCK_WIDGET_BUTTON_BAR* bar : get_dock_bar_of_area())
     if (bar->get_button_action_map().isEmpty())
       bar->hide();
+}
+
+bool FLOORPLAN_WINDOW::eventFilter(QObject* watched, QEvent* event)
+{
+  if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType()) {
+    auto* widget = static_cast<QWidget*>(watched);
+    // A bar button slides its own panel in and out; it is not "elsewhere".
+    if (widget->window() == this && !qobject_cast<ORQ_DOCK_WIDGET_BUTTON*>(widget))
+      hide_unpinned_widgets(static_cast<QMouseEvent*>(event));
+  }
+  return ORQ_MAIN_WINDOW::eventFilter(watched, event);
 }
 
 void FLOORPLAN_WINDOW::closeEvent(QCloseEvent* event)

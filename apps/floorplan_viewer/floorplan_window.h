@@ -49,6 +49,8 @@ public slots:
 
 protected:
   void closeEvent(QCloseEvent* event) override;
+  // A press anywhere else in the window slides the slid-out panels back.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
   void build_menus();

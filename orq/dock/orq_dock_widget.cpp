@@ -8,6 +8,7 @@
 #include "gen_help.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QChildEvent>
 #include <QCursor>
 #include <QKeyEvent>
@@ -100,6 +101,10 @@ void ORQ_DOCK_WIDGET::setup(QWidget* parent)
           &ORQ_DOCK_WIDGET::search_button_clicked);
   connect(m_titlebar, &ORQ_DOCK_WIDGET_TITLEBAR_WIDGET::float_button_clicked, this,
           &ORQ_DOCK_WIDGET::float_button_clicked);
+
+  // The title bar shows whether the focus is inside the dock.
+  connect(qApp, &QApplication::focusChanged, m_titlebar,
+          [this] { m_titlebar->update_button_active_state(); });
 
   setMouseTracking(true);
   setMinimumWidth(200);

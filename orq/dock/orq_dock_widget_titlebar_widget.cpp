@@ -338,6 +338,9 @@ void ORQ_DOCK_WIDGET_TITLEBAR_WIDGET::update_button_active_state()
 
 void ORQ_DOCK_WIDGET_TITLEBAR_WIDGET::update_button_active_state(bool active)
 {
+  // Called on every focus change of the application: only a change repaints.
+  if (active == m_active)
+    return;
   m_active = active;
   for (QFrame* frame : {m_frame, m_frame_v}) {
     frame->setAutoFillBackground(active);
