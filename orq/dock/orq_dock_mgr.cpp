@@ -58,6 +58,27 @@ GEN_LIBRARY_LOADER::HANDLE load(const QString& library)
   return handle;
 }
 
+// Loads library and calls its entry point through call. A missing entry
+// point leaves the library loaded and says nothing; one that makes no dock
+// is reported and its library unloaded.
+template <typename FUNCTION, typename CALL>
+ORQ_DOCK_WIDGET* load_and_call(const QString& library, const QString& entry, CALL call)
+{
+  GEN_LIBRARY_LOADER::HANDLE handle = load(library);
+  if (!handle)
+    return nullptr;
+  GEN_LIBRARY_LOADER& loader = gen_library_loader();
+  auto function = entry.isEmpty() ? nullptr : reinterpret_cast<FUNCTION>(loader.find_function(handle, entry));
+  if (!function)
+    return nullptr;
+  ORQ_DOCK_WIDGET* dock = call(function);
+  if (!dock) {
+    post_load_failure(library, QStringLiteral("%1 made no dockable window").arg(entry));
+    loader.unload(handle);
+  }
+  return dock;
+}
+
 QString child_text(const tinyxml2::XMLElement* element, const char* name)
 {
   const tinyxml2::XMLElement* child = element->FirstChildElement(name);
@@ -97,21 +118,10 @@ ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(ORQ_DOCK_ENUM which, ORQ_MAIN_
   const QStringList parts = module.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
   const QString library = parts.at(0);
   const QString base = parts.size() >= 2 ? library + QLatin1Char('_') + parts.at(1) : library;
-  GEN_LIBRARY_LOADER::HANDLE handle = load(library);
-  if (!handle)
-    return nullptr;
-  GEN_LIBRARY_LOADER& loader = gen_library_loader();
-  const QString entry = base + QStringLiteral("_create_dock_widget");
-  auto create = reinterpret_cast<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(loader.find_function(handle, entry));
-  if (!create)
-    return nullptr; // the library stays loaded
-  ORQ_DOCK_WIDGET* dock = create(window);
-  if (!dock) {
-    post_load_failure(library, QStringLiteral("%1 made no dockable window").arg(entry));
-    loader.unload(handle);
-    return nullptr;
-  }
-  own_window.release(); // the dock's window now
+  ORQ_DOCK_WIDGET* dock = load_and_call<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(
+      library, base + QStringLiteral("_create_dock_widget"), [window](auto create) { return create(window); });
+  if (dock)
+    own_window.release(); // the dock's window now
   return dock;
 }
 
@@ -125,21 +135,11 @@ ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(ORQ_DOCK_ENUM which, ORQ_DOCK_
   const QString module = m_modules.value(which);
   if (module.isEmpty())
     return nullptr;
-  GEN_LIBRARY_LOADER::HANDLE handle = load(module);
-  if (!handle)
-    return nullptr;
-  GEN_LIBRARY_LOADER& loader = gen_library_loader();
-  const QString entry = module + QStringLiteral("_create_dock_widget");
-  auto create = reinterpret_cast<ORQ_CREATE_DOCK_WIDGET_FROM_FUNCTION>(loader.find_function(handle, entry));
-  if (!create)
-    return nullptr;
-  ORQ_DOCK_WIDGET* dock = create(window, from);
-  if (!dock) {
-    post_load_failure(module, QStringLiteral("%1 made no dockable window").arg(entry));
-    loader.unload(handle);
-    return nullptr;
-  }
-  own_window.release();
+  ORQ_DOCK_WIDGET* dock = load_and_call<ORQ_CREATE_DOCK_WIDGET_FROM_FUNCTION>(
+      module, module + QStringLiteral("_create_dock_widget"),
+      [window, from](auto create) { return create(window, from); });
+  if (dock)
+    own_window.release();
   return dock;
 }
 
@@ -151,22 +151,9 @@ ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const tinyxml2::XMLElement* el
   const QString library = child_text(element, "dll_name");
   if (library.isEmpty())
     return nullptr;
-  const QString entry = child_text(element, "access_function");
-  GEN_LIBRARY_LOADER::HANDLE handle = load(library);
-  if (!handle)
-    return nullptr;
-  GEN_LIBRARY_LOADER& loader = gen_library_loader();
-  auto create = entry.isEmpty() ? nullptr
-                                : reinterpret_cast<ORQ_CREATE_DOCK_WIDGET_XML_FUNCTION>(
-                                      loader.find_function(handle, entry));
-  if (!create)
-    return nullptr;
-  ORQ_DOCK_WIDGET* dock = create(element, parent, flags);
-  if (!dock) {
-    post_load_failure(library, QStringLiteral("%1 made no dockable window").arg(entry));
-    loader.unload(handle);
-  }
-  return dock;
+  return load_and_call<ORQ_CREATE_DOCK_WIDGET_XML_FUNCTION>(
+      library, child_text(element, "access_function"),
+      [element, parent, flags](auto create) { return create(element, parent, flags); });
 }
 
 ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const std::string& xml, QWidget* parent, Qt::WindowFlags flags)
