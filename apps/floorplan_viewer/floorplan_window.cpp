@@ -94,6 +94,9 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy
   QMdiSubWindow* plan = m_mdi->addSubWindow(m_view);
   plan->setWindowTitle(QStringLiteral("Floor Plan"));
   plan->setObjectName(QStringLiteral("floorplan_document"));
+  // The plan is the tool itself: its tab refuses to close (the commands
+  // draw from it); the block list closes for good.
+  plan->installEventFilter(this);
 
   statusBar()->addWidget(m_hover, 1);
   QString tcl_version;
@@ -543,6 +546,10 @@ void FLOORPLAN_WINDOW::reset_layout()
 
 bool FLOORPLAN_WINDOW::eventFilter(QObject* watched, QEvent* event)
 {
+  if (event->type() == QEvent::Close && watched->objectName() == QLatin1String("floorplan_document")) {
+    event->ignore();
+    return true;
+  }
   if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType()) {
     auto* widget = static_cast<QWidget*>(watched);
     // A bar button slides its own panel in and out; it is not "elsewhere".
