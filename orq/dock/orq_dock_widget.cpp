@@ -76,6 +76,9 @@ ORQ_DOCK_WIDGET::ORQ_DOCK_WIDGET(const tinyxml2::XMLElement* element, QWidget* p
 
 ORQ_DOCK_WIDGET::~ORQ_DOCK_WIDGET()
 {
+  // Focus moves while the base class tears the dock down; the title bar
+  // must not ask a dock that is no longer one.
+  disconnect(qApp, nullptr, m_titlebar, nullptr);
   // The button lives in a bar of the window; it must not outlive its dock.
   remove_button_from_bar();
   delete m_button;
