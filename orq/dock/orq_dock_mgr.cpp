@@ -79,6 +79,18 @@ ORQ_DOCK_WIDGET* load_and_call(const QString& library, const QString& entry, CAL
   return dock;
 }
 
+// Makes a dock in window, or in a new main window when there is none; a
+// window made here goes again if no dock comes of it.
+template <typename MAKE>
+ORQ_DOCK_WIDGET* in_window(ORQ_MAIN_WINDOW* window, MAKE make)
+{
+  std::unique_ptr<ORQ_MAIN_WINDOW> own_window(window ? nullptr : new ORQ_MAIN_WINDOW);
+  ORQ_DOCK_WIDGET* dock = make(window ? window : own_window.get());
+  if (dock)
+    own_window.release(); // the dock's window now
+  return dock;
+}
+
 QString child_text(const tinyxml2::XMLElement* element, const char* name)
 {
   const tinyxml2::XMLElement* child = element->FirstChildElement(name);
@@ -108,39 +120,30 @@ void ORQ_DOCK_MGR::set_module(ORQ_DOCK_ENUM which, const QString& module)
 
 ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(ORQ_DOCK_ENUM which, ORQ_MAIN_WINDOW* window)
 {
-  // A window made here for the dock goes again if no dock comes of it.
-  std::unique_ptr<ORQ_MAIN_WINDOW> own_window(window ? nullptr : new ORQ_MAIN_WINDOW);
-  if (own_window)
-    window = own_window.get();
   const QString module = m_modules.value(which);
-  if (module.isEmpty())
-    return nullptr;
-  const QStringList parts = module.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
-  const QString library = parts.at(0);
-  const QString base = parts.size() >= 2 ? library + QLatin1Char('_') + parts.at(1) : library;
-  ORQ_DOCK_WIDGET* dock = load_and_call<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(
-      library, base + QStringLiteral("_create_dock_widget"), [window](auto create) { return create(window); });
-  if (dock)
-    own_window.release(); // the dock's window now
-  return dock;
+  return in_window(window, [&module](ORQ_MAIN_WINDOW* into) -> ORQ_DOCK_WIDGET* {
+    if (module.isEmpty())
+      return nullptr;
+    const QStringList parts = module.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
+    const QString library = parts.at(0);
+    const QString base = parts.size() >= 2 ? library + QLatin1Char('_') + parts.at(1) : library;
+    return load_and_call<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(library, base + QStringLiteral("_create_dock_widget"),
+                                                         [into](auto create) { return create(into); });
+  });
 }
 
 ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(ORQ_DOCK_ENUM which, ORQ_DOCK_FROM_ENUM from,
                                                   ORQ_MAIN_WINDOW* window)
 {
-  std::unique_ptr<ORQ_MAIN_WINDOW> own_window(window ? nullptr : new ORQ_MAIN_WINDOW);
-  if (own_window)
-    window = own_window.get();
   // The module string is used whole here, a view name included.
   const QString module = m_modules.value(which);
-  if (module.isEmpty())
-    return nullptr;
-  ORQ_DOCK_WIDGET* dock = load_and_call<ORQ_CREATE_DOCK_WIDGET_FROM_FUNCTION>(
-      module, module + QStringLiteral("_create_dock_widget"),
-      [window, from](auto create) { return create(window, from); });
-  if (dock)
-    own_window.release();
-  return dock;
+  return in_window(window, [&module, from](ORQ_MAIN_WINDOW* into) -> ORQ_DOCK_WIDGET* {
+    if (module.isEmpty())
+      return nullptr;
+    return load_and_call<ORQ_CREATE_DOCK_WIDGET_FROM_FUNCTION>(
+        module, module + QStringLiteral("_create_dock_widget"),
+        [into, from](auto create) { return create(into, from); });
+  });
 }
 
 ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const tinyxml2::XMLElement* element, QWidget* parent,
