@@ -4,13 +4,13 @@
 #include "orq_theme_p.h"
 
 namespace {
-const ORQ_BRUSH_DATA& brush_data(ORQ_BRUSH_RESOURCE brush)
+const ORQ_BRUSH_DATA& checked_brush_data(ORQ_BRUSH_RESOURCE brush)
 {
-  const ORQ_BRUSH_DATA* data = orq_gdi_mgr()->get_brush_data(brush);
-  ORQ_REQUIRE(data != NULL);
-  return *data;
+  const ORQ_BRUSH_DATA* brush_data = orq_gdi_mgr()->get_brush_data(brush);
+  ORQ_REQUIRE(brush_data != NULL);
+  return *brush_data;
 }
-}  // namespace
+} // namespace
 
 ORQ_BRUSH::ORQ_BRUSH(ORQ_BRUSH_RESOURCE brush)
 {
@@ -38,28 +38,31 @@ QDataStream& ORQ_BRUSH::operator>>(QDataStream& stream)
   qint32 resource = 0;
   QBrush brush;
   stream >> resource >> brush;
-  if (stream.status() != QDataStream::Ok
-      || (resource != ORQ_MIN_BRUSH && !orq_gdi_mgr()->get_brush_data(ORQ_BRUSH_RESOURCE(resource))))
+  if (stream.status() != QDataStream::Ok ||
+      (resource != ORQ_MIN_BRUSH && !orq_gdi_mgr()->get_brush_data(ORQ_BRUSH_RESOURCE(resource))))
     ORQ_INTERNAL_ERROR("Error in ORQ_BRUSH::operator >>");
   m_brush_resource = ORQ_BRUSH_RESOURCE(resource);
   m_brush = brush;
   return stream;
 }
 
-QDataStream& ORQ_BRUSH::operator<<(QDataStream& stream) const
+QDataStream& ORQ_BRUSH::operator<<(QDataStream& stream)
 {
   return stream << qint32(m_brush_resource) << m_brush;
 }
 
 QBrush ORQ_BRUSH::get_brush() const
 {
-  return m_brush_resource == ORQ_MIN_BRUSH ? m_brush : brush_data(m_brush_resource).m_brush;
+  if (m_brush_resource == ORQ_MIN_BRUSH)
+    return m_brush;
+  checked_brush_data(m_brush_resource);
+  return orq_gdi_mgr()->get_brush(m_brush_resource);
 }
 
 ORQ_COLOR ORQ_BRUSH::get_color() const
 {
   if (m_brush_resource != ORQ_MIN_BRUSH) {
-    const ORQ_BRUSH_DATA& data = brush_data(m_brush_resource);
+    const ORQ_BRUSH_DATA& data = checked_brush_data(m_brush_resource);
     if (data.m_color != ORQ_MIN_COLOR)
       return ORQ_COLOR(data.m_color);
   }
@@ -75,7 +78,7 @@ void ORQ_BRUSH::make_literal()
 {
   if (m_brush_resource == ORQ_MIN_BRUSH)
     return;
-  m_brush = brush_data(m_brush_resource).m_brush;
+  m_brush = get_brush();
   m_brush_resource = ORQ_MIN_BRUSH;
 }
 
@@ -88,7 +91,7 @@ void ORQ_BRUSH::set_brush(const QBrush& brush)
 void ORQ_BRUSH::set_brush(ORQ_BRUSH_RESOURCE brush)
 {
   ORQ_REQUIRE(brush != ORQ_MIN_BRUSH);
-  brush_data(brush);
+  checked_brush_data(brush);
   m_brush_resource = brush;
 }
 

@@ -17,7 +17,7 @@ public:
   bool operator!=(const ORQ_BRUSH& other) const { return !(*this == other); }
 
   virtual QDataStream& operator>>(QDataStream& stream);
-  virtual QDataStream& operator<<(QDataStream& stream) const;
+  virtual QDataStream& operator<<(QDataStream& stream);
 
   // The brush to paint with.
   QBrush get_brush() const;

@@ -39,7 +39,7 @@ QDataStream& ORQ_COLOR::operator>>(QDataStream& stream)
   return stream;
 }
 
-QDataStream& ORQ_COLOR::operator<<(QDataStream& stream) const
+QDataStream& ORQ_COLOR::operator<<(QDataStream& stream)
 {
   return stream << qint32(m_color_resource) << m_color;
 }

@@ -22,7 +22,7 @@ public:
 
   // Reads this colour from the stream; writes it to the stream.
   virtual QDataStream& operator>>(QDataStream& stream);
-  virtual QDataStream& operator<<(QDataStream& stream) const;
+  virtual QDataStream& operator<<(QDataStream& stream);
 
   QColor get_color() const;
   // ORQ_MIN_COLOR for a literal colour.

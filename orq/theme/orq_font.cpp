@@ -4,18 +4,18 @@
 #include "orq_theme_p.h"
 
 namespace {
-const ORQ_FONT_DATA& font_data(ORQ_FONT_RESOURCE font)
+const ORQ_FONT_DATA& checked_font_data(ORQ_FONT_RESOURCE font)
 {
-  const ORQ_FONT_DATA* data = orq_gdi_mgr()->get_font_data(font);
-  ORQ_REQUIRE(data != NULL);
-  return *data;
+  const ORQ_FONT_DATA* font_data = orq_gdi_mgr()->get_font_data(font);
+  ORQ_REQUIRE(font_data != NULL);
+  return *font_data;
 }
 
 ORQ_COLOR colour_of(ORQ_COLOR_RESOURCE color)
 {
   return color == ORQ_MIN_COLOR ? ORQ_COLOR() : ORQ_COLOR(color);
 }
-}  // namespace
+} // namespace
 
 // A font that follows its resource needs no record of its own: it is made
 // when the font first becomes literal, so wrappers made in paint code stay
@@ -46,9 +46,9 @@ bool ORQ_FONT::operator==(const ORQ_FONT& other) const
 {
   if (m_font_resource != ORQ_MIN_FONT || other.m_font_resource != ORQ_MIN_FONT)
     return m_font_resource == other.m_font_resource;
-  return m_font->m_text_color == other.m_font->m_text_color
-         && m_font->m_background_color == other.m_font->m_background_color
-         && m_font->m_font == other.m_font->m_font;
+  return m_font->m_text_color == other.m_font->m_text_color &&
+         m_font->m_background_color == other.m_font->m_background_color &&
+         m_font->m_font == other.m_font->m_font;
 }
 
 QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
@@ -62,9 +62,9 @@ QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
   QColor background;
   QFont font;
   stream >> resource >> text_resource >> text >> background_resource >> background >> font;
-  if (stream.status() != QDataStream::Ok
-      || (resource != ORQ_MIN_FONT && !orq_gdi_mgr()->get_font_data(ORQ_FONT_RESOURCE(resource)))
-      || !orq_theme_color_exists(text_resource) || !orq_theme_color_exists(background_resource))
+  if (stream.status() != QDataStream::Ok ||
+      (resource != ORQ_MIN_FONT && !orq_gdi_mgr()->get_font_data(ORQ_FONT_RESOURCE(resource))) ||
+      !orq_theme_color_exists(text_resource) || !orq_theme_color_exists(background_resource))
     ORQ_INTERNAL_ERROR("Error at ORQ_FONT::operator >>");
   m_font_resource = ORQ_FONT_RESOURCE(resource);
   if (!m_font)
@@ -76,7 +76,7 @@ QDataStream& ORQ_FONT::operator>>(QDataStream& stream)
   return stream;
 }
 
-QDataStream& ORQ_FONT::operator<<(QDataStream& stream) const
+QDataStream& ORQ_FONT::operator<<(QDataStream& stream)
 {
   const ORQ_FONT_RECORD record = current();
   stream << qint32(m_font_resource);
@@ -89,21 +89,39 @@ ORQ_FONT_RECORD ORQ_FONT::current() const
 {
   if (m_font_resource == ORQ_MIN_FONT)
     return *m_font;
-  const ORQ_FONT_DATA& data = font_data(m_font_resource);
+  const ORQ_FONT_DATA& data = checked_font_data(m_font_resource);
   return ORQ_FONT_RECORD{colour_of(data.m_text_color), colour_of(data.m_background_color), data.m_font};
 }
 
 QFont ORQ_FONT::get_font() const
 {
-  return m_font_resource == ORQ_MIN_FONT ? m_font->m_font : font_data(m_font_resource).m_font;
+  return m_font_resource == ORQ_MIN_FONT ? m_font->m_font : checked_font_data(m_font_resource).m_font;
 }
 
-ORQ_COLOR ORQ_FONT::get_text_color() const { return current().m_text_color; }
-ORQ_COLOR ORQ_FONT::get_background_color() const { return current().m_background_color; }
-QString ORQ_FONT::get_face_name() const { return get_font().family(); }
-int ORQ_FONT::get_point_size() const { return get_font().pointSize(); }
-bool ORQ_FONT::get_bold() const { return get_font().bold(); }
-bool ORQ_FONT::get_italic() const { return get_font().italic(); }
+ORQ_COLOR ORQ_FONT::get_text_color() const
+{
+  return current().m_text_color;
+}
+ORQ_COLOR ORQ_FONT::get_background_color() const
+{
+  return current().m_background_color;
+}
+QString ORQ_FONT::get_face_name() const
+{
+  return get_font().family();
+}
+int ORQ_FONT::get_point_size() const
+{
+  return get_font().pointSize();
+}
+bool ORQ_FONT::get_bold() const
+{
+  return get_font().bold();
+}
+bool ORQ_FONT::get_italic() const
+{
+  return get_font().italic();
+}
 
 void ORQ_FONT::make_literal()
 {
@@ -164,7 +182,7 @@ void ORQ_FONT::set_font(ORQ_COLOR text, ORQ_COLOR background, const QString& fac
 void ORQ_FONT::set_font(ORQ_FONT_RESOURCE font)
 {
   ORQ_REQUIRE(font != ORQ_MIN_FONT);
-  font_data(font);
+  checked_font_data(font);
   m_font_resource = font;
 }
 
@@ -178,7 +196,7 @@ ORQ_FONT ORQ_FONT::get_default_font(ORQ_FONT_RESOURCE font)
 void ORQ_FONT::set_default_font(ORQ_FONT_RESOURCE font, const ORQ_FONT* value)
 {
   ORQ_REQUIRE(value != NULL);
-  const ORQ_FONT_DATA& data = font_data(font);
+  const ORQ_FONT_DATA& data = checked_font_data(font);
   const ORQ_FONT_RECORD record = value->current();
   // The stored form names colour resources; a literal colour keeps the
   // resource the font had.
@@ -193,7 +211,7 @@ void ORQ_FONT::set_default_font(ORQ_FONT_RESOURCE font, const ORQ_FONT* value)
 
 bool ORQ_FONT::can_change_default_font(ORQ_FONT_RESOURCE font)
 {
-  return font_data(font).m_changeable;
+  return checked_font_data(font).m_changeable;
 }
 
 void ORQ_FONT::reset_fonts(std::set<ORQ_FONT_RESOURCE> font_set)

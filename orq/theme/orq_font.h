@@ -26,7 +26,7 @@ public:
   bool operator!=(const ORQ_FONT& other) const { return !(*this == other); }
 
   virtual QDataStream& operator>>(QDataStream& stream);
-  virtual QDataStream& operator<<(QDataStream& stream) const;
+  virtual QDataStream& operator<<(QDataStream& stream);
 
   // The font to draw with.
   QFont get_font() const;

@@ -1,22 +1,46 @@
 #include "orq_gdi_manager.h"
 
 #include "orq_require_p.h"
+#include "orq_theme_id_map_p.h"
 #include "orq_theme_tables_p.h"
 
 #include "gen_config_vars.h"
 #include "gen_message_service.h"
 #include "gen_settings.h"
 
+#include <QEvent>
 #include <QGuiApplication>
-#include <QRegularExpression>
+#include <QPointer>
 
 namespace {
 ORQ_GDI_MANAGER* g_instance = nullptr;
 
+// Pens and brushes on system colours are kept in step with the application
+// palette, so that code reading the manager's records sees what a wrapper
+// would paint with.
+class PALETTE_WATCH : public QObject {
+public:
+  using QObject::QObject;
+  bool eventFilter(QObject* watched, QEvent* event) override
+  {
+    if (watched == QCoreApplication::instance() && event->type() == QEvent::ApplicationPaletteChange &&
+        g_instance)
+      g_instance->refresh_pen_and_brush_colors();
+    return QObject::eventFilter(watched, event);
+  }
+};
+QPointer<PALETTE_WATCH> g_palette_watch;
+
 // Stored values come from a file the user can edit: every number is checked
 // against what Qt accepts before it reaches a QPen or QFont.
-bool valid_pen_style(int v) { return v >= Qt::NoPen && v <= Qt::CustomDashLine; }
-bool valid_cap(int v) { return v == Qt::FlatCap || v == Qt::SquareCap || v == Qt::RoundCap; }
+bool valid_pen_style(int v)
+{
+  return v >= Qt::NoPen && v <= Qt::CustomDashLine;
+}
+bool valid_cap(int v)
+{
+  return v == Qt::FlatCap || v == Qt::SquareCap || v == Qt::RoundCap;
+}
 bool valid_join(int v)
 {
   return v == Qt::MiterJoin || v == Qt::BevelJoin || v == Qt::RoundJoin || v == Qt::SvgMiterJoin;
@@ -36,53 +60,23 @@ bool parse_int(const QString& token, int* value)
 // The fields a stored font value keeps.
 bool same_font(const QFont& a, const QFont& b)
 {
-  return a.family() == b.family() && a.pointSize() == b.pointSize() && a.bold() == b.bold()
-         && a.italic() == b.italic() && a.underline() == b.underline() && a.strikeOut() == b.strikeOut()
-         && a.fixedPitch() == b.fixedPitch() && a.styleHint() == b.styleHint();
+  return a.family() == b.family() && a.pointSize() == b.pointSize() && a.bold() == b.bold() &&
+         a.italic() == b.italic() && a.underline() == b.underline() && a.strikeOut() == b.strikeOut() &&
+         a.fixedPitch() == b.fixedPitch() && a.styleHint() == b.styleHint();
 }
 
 bool parse_flag(const QString& token, int* value)
 {
   return parse_int(token, value) && (*value == 0 || *value == 1);
 }
-}  // namespace
+} // namespace
 
-template <typename DATA>
-bool ORQ_GDI_MANAGER::ID_MAP<DATA>::insert(int id, const DATA& data)
-{
-  if (id < 0)
-    return false;
-  if (size_t(id) >= m_data.size()) {
-    m_data.resize(size_t(id) + 1);
-    m_present.resize(size_t(id) + 1, 0);
-  }
-  if (m_present[size_t(id)])
-    return false;
-  m_data[size_t(id)] = data;
-  m_present[size_t(id)] = 1;
-  return true;
-}
-
-template <typename DATA>
-DATA* ORQ_GDI_MANAGER::ID_MAP<DATA>::find(int id)
-{
-  return id >= 0 && size_t(id) < m_data.size() && m_present[size_t(id)] ? &m_data[size_t(id)] : nullptr;
-}
-
-template <typename DATA>
-const DATA* ORQ_GDI_MANAGER::ID_MAP<DATA>::find(int id) const
-{
-  return id >= 0 && size_t(id) < m_data.size() && m_present[size_t(id)] ? &m_data[size_t(id)] : nullptr;
-}
-
-template <typename DATA>
-template <typename F>
-void ORQ_GDI_MANAGER::ID_MAP<DATA>::for_each(F&& f) const
-{
-  for (size_t id = 0; id < m_data.size(); ++id)
-    if (m_present[id])
-      f(m_data[id]);
-}
+struct ORQ_GDI_TABLES {
+  ORQ_THEME_ID_MAP<ORQ_COLOR_DATA> colors;
+  ORQ_THEME_ID_MAP<ORQ_PEN_DATA> pens;
+  ORQ_THEME_ID_MAP<ORQ_BRUSH_DATA> brushes;
+  ORQ_THEME_ID_MAP<ORQ_FONT_DATA> fonts;
+};
 
 bool ORQ_GDI_MANAGER::m_instance_has_been_deleted = false;
 const QString ORQ_GDI_MANAGER::k_colors_key = QStringLiteral("Theme/Colors");
@@ -97,6 +91,8 @@ ORQ_GDI_MANAGER* ORQ_GDI_MANAGER::get_instance()
   if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
     return nullptr;
   g_instance = new ORQ_GDI_MANAGER;
+  g_palette_watch = new PALETTE_WATCH(QCoreApplication::instance());
+  QCoreApplication::instance()->installEventFilter(g_palette_watch);
   // The palette and fonts belong to the application: the manager ends with it.
   qAddPostRoutine(&ORQ_GDI_MANAGER::delete_instance);
   return g_instance;
@@ -106,12 +102,14 @@ void ORQ_GDI_MANAGER::delete_instance()
 {
   if (!g_instance)
     return;
+  delete g_palette_watch.data();
   delete g_instance;
   g_instance = nullptr;
   m_instance_has_been_deleted = true;
 }
 
 ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
+    : m_tables(std::make_unique<ORQ_GDI_TABLES>())
 {
   for (int i = 0; i < orq_color_table_size; ++i) {
     const ORQ_COLOR_ENTRY& e = orq_color_table[i];
@@ -122,8 +120,7 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     data.m_changeable = e.changeable != 0;
     data.m_color = data.m_default_color = QColor(QLatin1String(e.color));
     data.m_name = QLatin1String(e.name);
-    const bool inserted = m_colors.insert(e.id, data);
-    ORQ_REQUIRE(inserted);
+    orq_theme_insert_row(m_tables->colors, e.id, data);
     m_color_names.insert(data.m_name, e.id);
   }
   for (int i = 0; i < orq_pen_table_size; ++i) {
@@ -131,18 +128,16 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     ORQ_PEN_DATA data;
     data.m_name = QLatin1String(e.name);
     data.m_color = data.m_default_color = e.color;
-    data.m_pen = QPen(QBrush(m_colors.find(e.color)->m_color), e.width, e.style, e.cap, e.join);
+    data.m_pen = QPen(QBrush(get_color(e.color)), e.width, e.style, e.cap, e.join);
     data.m_default_pen = data.m_pen;
-    const bool inserted = m_pens.insert(e.id, data);
-    ORQ_REQUIRE(inserted);
+    orq_theme_insert_row(m_tables->pens, e.id, data);
   }
   for (int i = 0; i < orq_brush_table_size; ++i) {
     const ORQ_BRUSH_ENTRY& e = orq_brush_table[i];
     ORQ_BRUSH_DATA data;
     data.m_color = data.m_default_color = e.color;
-    data.m_brush = data.m_default_brush = QBrush(m_colors.find(e.color)->m_color, e.style);
-    const bool inserted = m_brushes.insert(e.id, data);
-    ORQ_REQUIRE(inserted);
+    data.m_brush = data.m_default_brush = QBrush(get_color(e.color), e.style);
+    orq_theme_insert_row(m_tables->brushes, e.id, data);
   }
   const bool kerning = gen_config_vars().get_bool(QStringLiteral("orq_enable_kerning"), false);
   for (int i = 0; i < orq_font_table_size; ++i) {
@@ -161,8 +156,7 @@ ORQ_GDI_MANAGER::ORQ_GDI_MANAGER()
     font.setStyleHint(QFont::StyleHint(e.style_hint));
     font.setKerning(kerning);
     data.m_font = data.m_default_font = font;
-    const bool inserted = m_fonts.insert(e.id, data);
-    ORQ_REQUIRE(inserted);
+    orq_theme_insert_row(m_tables->fonts, e.id, data);
   }
 
   for (const char* family : {"DejaVu Sans", "Arial", "Tahoma", "Microsoft Sans Serif", "MS Sans Serif"})
@@ -180,27 +174,27 @@ ORQ_GDI_MANAGER::~ORQ_GDI_MANAGER() = default;
 
 const ORQ_COLOR_DATA* ORQ_GDI_MANAGER::get_color_data(ORQ_COLOR_RESOURCE color) const
 {
-  return m_colors.find(color);
+  return m_tables->colors.find(color);
 }
 
 const ORQ_PEN_DATA* ORQ_GDI_MANAGER::get_pen_data(ORQ_PEN_RESOURCE pen) const
 {
-  return m_pens.find(pen);
+  return m_tables->pens.find(pen);
 }
 
 const ORQ_BRUSH_DATA* ORQ_GDI_MANAGER::get_brush_data(ORQ_BRUSH_RESOURCE brush) const
 {
-  return m_brushes.find(brush);
+  return m_tables->brushes.find(brush);
 }
 
 const ORQ_FONT_DATA* ORQ_GDI_MANAGER::get_font_data(ORQ_FONT_RESOURCE font) const
 {
-  return m_fonts.find(font);
+  return m_tables->fonts.find(font);
 }
 
 ORQ_COLOR_DATA& ORQ_GDI_MANAGER::color_data(ORQ_COLOR_RESOURCE color)
 {
-  ORQ_COLOR_DATA* i = m_colors.find(color);
+  ORQ_COLOR_DATA* i = m_tables->colors.find(color);
   // Said as a map lookup: that is what the identifier was missing from.
   if (!i)
     ORQ_INTERNAL_ERROR("i != m_colors.end()");
@@ -209,7 +203,7 @@ ORQ_COLOR_DATA& ORQ_GDI_MANAGER::color_data(ORQ_COLOR_RESOURCE color)
 
 ORQ_PEN_DATA& ORQ_GDI_MANAGER::pen_data(ORQ_PEN_RESOURCE pen)
 {
-  ORQ_PEN_DATA* i = m_pens.find(pen);
+  ORQ_PEN_DATA* i = m_tables->pens.find(pen);
   // Said as a map lookup: that is what the identifier was missing from.
   if (!i)
     ORQ_INTERNAL_ERROR("i != m_pens.end()");
@@ -218,7 +212,7 @@ ORQ_PEN_DATA& ORQ_GDI_MANAGER::pen_data(ORQ_PEN_RESOURCE pen)
 
 ORQ_BRUSH_DATA& ORQ_GDI_MANAGER::brush_data(ORQ_BRUSH_RESOURCE brush)
 {
-  ORQ_BRUSH_DATA* i = m_brushes.find(brush);
+  ORQ_BRUSH_DATA* i = m_tables->brushes.find(brush);
   // Said as a map lookup: that is what the identifier was missing from.
   if (!i)
     ORQ_INTERNAL_ERROR("i != m_brushes.end()");
@@ -227,7 +221,7 @@ ORQ_BRUSH_DATA& ORQ_GDI_MANAGER::brush_data(ORQ_BRUSH_RESOURCE brush)
 
 ORQ_FONT_DATA& ORQ_GDI_MANAGER::font_data(ORQ_FONT_RESOURCE font)
 {
-  ORQ_FONT_DATA* i = m_fonts.find(font);
+  ORQ_FONT_DATA* i = m_tables->fonts.find(font);
   // Said as a map lookup: that is what the identifier was missing from.
   if (!i)
     ORQ_INTERNAL_ERROR("i != m_fonts.end()");
@@ -237,6 +231,34 @@ ORQ_FONT_DATA& ORQ_GDI_MANAGER::font_data(ORQ_FONT_RESOURCE font)
 ORQ_COLOR_RESOURCE ORQ_GDI_MANAGER::find_color(const QString& name) const
 {
   return m_color_names.value(name, ORQ_MIN_COLOR);
+}
+
+QPen ORQ_GDI_MANAGER::get_pen(ORQ_PEN_RESOURCE pen) const
+{
+  const ORQ_PEN_DATA* pen_data = get_pen_data(pen);
+  ORQ_REQUIRE(pen_data != NULL);
+  if (pen_data->m_color == ORQ_MIN_COLOR)
+    return pen_data->m_pen;
+  const QColor now = get_color(pen_data->m_color);
+  if (now == pen_data->m_pen.color())
+    return pen_data->m_pen;
+  QPen result = pen_data->m_pen;
+  result.setColor(now);
+  return result;
+}
+
+QBrush ORQ_GDI_MANAGER::get_brush(ORQ_BRUSH_RESOURCE brush) const
+{
+  const ORQ_BRUSH_DATA* brush_data = get_brush_data(brush);
+  ORQ_REQUIRE(brush_data != NULL);
+  if (brush_data->m_color == ORQ_MIN_COLOR)
+    return brush_data->m_brush;
+  const QColor now = get_color(brush_data->m_color);
+  if (now == brush_data->m_brush.color())
+    return brush_data->m_brush;
+  QBrush result = brush_data->m_brush;
+  result.setColor(now);
+  return result;
 }
 
 QColor ORQ_GDI_MANAGER::get_color(ORQ_COLOR_RESOURCE color) const
@@ -251,9 +273,8 @@ QColor ORQ_GDI_MANAGER::get_color(ORQ_COLOR_RESOURCE color) const
 void ORQ_GDI_MANAGER::set_color(ORQ_COLOR_RESOURCE color, const QColor& value)
 {
   ORQ_COLOR_DATA& data = color_data(color);
-  // A fixed colour stays what the table says unless the tool allowed more.
-  if (!data.m_changeable && !m_change_non_windows_color)
-    return;
+  // Changeable only says what a user may override and what is saved; a tool
+  // may set any colour.
   data.m_color = value;
 }
 
@@ -352,19 +373,21 @@ void ORQ_GDI_MANAGER::load_colors()
 {
   const bool apply = overrides_apply(k_colors_key, QStringLiteral("Color_version"));
   const QPalette palette = QGuiApplication::palette();
-  static const QRegularExpression hex_colour(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
   for (int i = 0; i < orq_color_table_size; ++i) {
     ORQ_COLOR_DATA& data = color_data(orq_color_table[i].id);
     QColor override_colour;
     if (apply && !data.m_system && data.m_changeable) {
+      // Anything QColor reads as a colour name is taken ("#1b5e20", "#abc",
+      // "darkorange"); the rest leaves the default.
       const QString text = gen_settings().value(k_colors_key, data.m_name).toString();
-      if (hex_colour.match(text).hasMatch())
-        override_colour = QColor(text);
+      if (QColor::isValidColor(text))
+        override_colour.setNamedColor(text);
     }
     if (!data.m_system && data.m_has_role)
       data.m_default_color = palette.color(data.m_default_role);
     data.m_color = override_colour.isValid() ? override_colour : data.m_default_color;
   }
+  refresh_pen_and_brush_colors();
 }
 
 QString ORQ_GDI_MANAGER::format_pen(const ORQ_PEN_DATA& pen)
@@ -392,10 +415,10 @@ bool ORQ_GDI_MANAGER::parse_pen(const QString& text, ORQ_COLOR_RESOURCE* color, 
   int width = 0;
   bool rgb_ok = false;
   const uint rgb = tokens.at(5).toUInt(&rgb_ok);
-  if (resource == ORQ_MIN_COLOR || !parse_int(tokens.at(1), &style) || !valid_pen_style(style)
-      || !parse_int(tokens.at(2), &cap) || !valid_cap(cap) || !parse_int(tokens.at(3), &join)
-      || !valid_join(join) || !parse_int(tokens.at(4), &width) || width < 0 || width > k_max_pen_width
-      || !rgb_ok)
+  if (resource == ORQ_MIN_COLOR || !parse_int(tokens.at(1), &style) || !valid_pen_style(style) ||
+      !parse_int(tokens.at(2), &cap) || !valid_cap(cap) || !parse_int(tokens.at(3), &join) ||
+      !valid_join(join) || !parse_int(tokens.at(4), &width) || width < 0 || width > k_max_pen_width ||
+      !rgb_ok)
     return false;
   *color = resource;
   *pen = QPen(QBrush(QColor::fromRgb(rgb)), width, Qt::PenStyle(style), Qt::PenCapStyle(cap),
@@ -419,6 +442,7 @@ void ORQ_GDI_MANAGER::load_pens()
       data.m_pen = pen;
     }
   }
+  refresh_pen_and_brush_colors();
 }
 
 QString ORQ_GDI_MANAGER::format_font(const ORQ_FONT_DATA& font)
@@ -461,12 +485,12 @@ bool ORQ_GDI_MANAGER::parse_font(const QString& text, ORQ_FONT_DATA* font) const
   int hint = 0;
   const ORQ_COLOR_RESOURCE text_color = find_color(tokens.at(1));
   const ORQ_COLOR_RESOURCE background = find_color(tokens.at(2));
-  if (!parse_flag(tokens.at(0), &flag) || text_color == ORQ_MIN_COLOR || background == ORQ_MIN_COLOR
-      || !parse_int(tokens.at(3), &points) || points < 1 || points > k_max_point_size
-      || !parse_flag(tokens.at(4), &bold) || !parse_flag(tokens.at(5), &italic)
-      || !parse_flag(tokens.at(6), &underline) || !parse_flag(tokens.at(7), &strike)
-      || !parse_flag(tokens.at(8), &fixed) || !parse_int(tokens.at(9), &hint) || hint < QFont::Helvetica
-      || hint > QFont::Fantasy)
+  if (!parse_flag(tokens.at(0), &flag) || text_color == ORQ_MIN_COLOR || background == ORQ_MIN_COLOR ||
+      !parse_int(tokens.at(3), &points) || points < 1 || points > k_max_point_size ||
+      !parse_flag(tokens.at(4), &bold) || !parse_flag(tokens.at(5), &italic) ||
+      !parse_flag(tokens.at(6), &underline) || !parse_flag(tokens.at(7), &strike) ||
+      !parse_flag(tokens.at(8), &fixed) || !parse_int(tokens.at(9), &hint) || hint < QFont::Helvetica ||
+      hint > QFont::Fantasy)
     return false;
   QFont f = font->m_default_font;
   f.setFamily(face);
@@ -502,11 +526,10 @@ void ORQ_GDI_MANAGER::save_colors()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_colors_key, QStringLiteral("Color_version"), k_version);
-  m_colors.for_each([&settings](const ORQ_COLOR_DATA& data) {
+  m_tables->colors.for_each([&settings](const ORQ_COLOR_DATA& data) {
     if (!data.m_changeable || data.m_system)
       return;
-    const bool changed =
-        data.m_role != data.m_default_role || data.m_color != data.m_default_color;
+    const bool changed = data.m_role != data.m_default_role || data.m_color != data.m_default_color;
     if (changed)
       settings.set_value(k_colors_key, data.m_name, data.m_color.name());
     else
@@ -518,11 +541,12 @@ void ORQ_GDI_MANAGER::save_pens()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_pens_key, QStringLiteral("Pen_version"), k_version);
-  m_pens.for_each([&settings](const ORQ_PEN_DATA& data) {
-    const bool changed = data.m_color != data.m_default_color || data.m_pen.style() != data.m_default_pen.style()
-                         || data.m_pen.capStyle() != data.m_default_pen.capStyle()
-                         || data.m_pen.joinStyle() != data.m_default_pen.joinStyle()
-                         || data.m_pen.width() != data.m_default_pen.width();
+  m_tables->pens.for_each([&settings](const ORQ_PEN_DATA& data) {
+    const bool changed = data.m_color != data.m_default_color ||
+                         data.m_pen.style() != data.m_default_pen.style() ||
+                         data.m_pen.capStyle() != data.m_default_pen.capStyle() ||
+                         data.m_pen.joinStyle() != data.m_default_pen.joinStyle() ||
+                         data.m_pen.width() != data.m_default_pen.width();
     if (changed)
       settings.set_value(k_pens_key, data.m_name, format_pen(data));
     else
@@ -534,12 +558,12 @@ void ORQ_GDI_MANAGER::save_fonts()
 {
   GEN_SETTINGS& settings = gen_settings();
   settings.set_value(k_fonts_key, QStringLiteral("Font_version"), k_version);
-  m_fonts.for_each([&settings](const ORQ_FONT_DATA& data) {
+  m_tables->fonts.for_each([&settings](const ORQ_FONT_DATA& data) {
     if (!data.m_changeable)
       return;
-    const bool changed = data.m_text_color != data.m_default_text_color
-                         || data.m_background_color != data.m_default_background_color
-                         || !same_font(data.m_font, data.m_default_font);
+    const bool changed = data.m_text_color != data.m_default_text_color ||
+                         data.m_background_color != data.m_default_background_color ||
+                         !same_font(data.m_font, data.m_default_font);
     if (changed)
       settings.set_value(k_fonts_key, data.m_name, format_font(data));
     else

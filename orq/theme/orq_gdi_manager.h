@@ -17,8 +17,8 @@
 #include <QPen>
 #include <QString>
 
+#include <memory>
 #include <set>
-#include <vector>
 
 struct ORQ_COLOR_DATA {
   int m_system = 0;
@@ -47,7 +47,7 @@ struct ORQ_BRUSH_DATA {
 };
 
 struct ORQ_FONT_DATA {
-  int m_flag = 0;  // 1 once the user chose this font; kept in the stored value
+  int m_flag = 0; // 1 once the user chose this font; kept in the stored value
   QString m_name;
   bool m_changeable = false;
   ORQ_COLOR_RESOURCE m_text_color = ORQ_MIN_COLOR;
@@ -57,6 +57,8 @@ struct ORQ_FONT_DATA {
   QFont m_font;
   QFont m_default_font;
 };
+
+struct ORQ_GDI_TABLES;
 
 class ORQ_EXPORT ORQ_GDI_MANAGER {
 public:
@@ -80,6 +82,10 @@ public:
 
   // A system colour answers the application palette at the time of the call.
   QColor get_color(ORQ_COLOR_RESOURCE color) const;
+  // What a pen or brush of the table paints with now: in its colour's
+  // current value, a system colour read from the palette at the call.
+  QPen get_pen(ORQ_PEN_RESOURCE pen) const;
+  QBrush get_brush(ORQ_BRUSH_RESOURCE brush) const;
   void set_color(ORQ_COLOR_RESOURCE color, const QColor& value);
   void set_pen_color(ORQ_PEN_RESOURCE pen, ORQ_COLOR_RESOURCE color);
   void set_pen_width(ORQ_PEN_RESOURCE pen, int width);
@@ -99,7 +105,8 @@ public:
   void save_pens();
   void save_fonts();
 
-  // With this set, colours that are not changeable may be set too.
+  // A switch for tools whose own colour editors offer colours that are not
+  // changeable; the manager keeps it for them and does not consult it.
   void set_change_non_windows_color(bool on);
   bool get_change_non_windows_color() const;
 
@@ -122,26 +129,8 @@ private:
   ORQ_FONT_DATA& font_data(ORQ_FONT_RESOURCE font);
   bool overrides_apply(const QString& key, const QString& version_name) const;
 
-  // Identifier-to-record maps. Identifiers are small and dense, so each map
-  // is a table indexed by identifier: a lookup in a paint loop is one load.
-  template <typename DATA>
-  class ID_MAP {
-  public:
-    bool insert(int id, const DATA& data);
-    DATA* find(int id);
-    const DATA* find(int id) const;
-    template <typename F>
-    void for_each(F&& f) const;
-
-  private:
-    std::vector<DATA> m_data;
-    std::vector<char> m_present;
-  };
-
-  ID_MAP<ORQ_COLOR_DATA> m_colors;
-  ID_MAP<ORQ_PEN_DATA> m_pens;
-  ID_MAP<ORQ_BRUSH_DATA> m_brushes;
-  ID_MAP<ORQ_FONT_DATA> m_fonts;
+  // The four tables, indexed by identifier.
+  std::unique_ptr<ORQ_GDI_TABLES> m_tables;
   QHash<QString, ORQ_COLOR_RESOURCE> m_color_names;
   bool m_change_non_windows_color = false;
 };

@@ -4,13 +4,13 @@
 #include "orq_theme_p.h"
 
 namespace {
-const ORQ_PEN_DATA& pen_data(ORQ_PEN_RESOURCE pen)
+const ORQ_PEN_DATA& checked_pen_data(ORQ_PEN_RESOURCE pen)
 {
-  const ORQ_PEN_DATA* data = orq_gdi_mgr()->get_pen_data(pen);
-  ORQ_REQUIRE(data != NULL);
-  return *data;
+  const ORQ_PEN_DATA* pen_data = orq_gdi_mgr()->get_pen_data(pen);
+  ORQ_REQUIRE(pen_data != NULL);
+  return *pen_data;
 }
-}  // namespace
+} // namespace
 
 ORQ_PEN::ORQ_PEN(ORQ_PEN_RESOURCE pen)
 {
@@ -38,50 +38,62 @@ QDataStream& ORQ_PEN::operator>>(QDataStream& stream)
   qint32 resource = 0;
   QPen pen;
   stream >> resource >> pen;
-  if (stream.status() != QDataStream::Ok
-      || (resource != ORQ_MIN_PEN && !orq_gdi_mgr()->get_pen_data(ORQ_PEN_RESOURCE(resource))))
+  if (stream.status() != QDataStream::Ok ||
+      (resource != ORQ_MIN_PEN && !orq_gdi_mgr()->get_pen_data(ORQ_PEN_RESOURCE(resource))))
     ORQ_INTERNAL_ERROR("Error at ORQ_PEN::operator >>");
   m_pen_resource = ORQ_PEN_RESOURCE(resource);
   m_pen = pen;
   return stream;
 }
 
-QDataStream& ORQ_PEN::operator<<(QDataStream& stream) const
+QDataStream& ORQ_PEN::operator<<(QDataStream& stream)
 {
   return stream << qint32(m_pen_resource) << m_pen;
 }
 
-const QPen& ORQ_PEN::current() const
+QPen ORQ_PEN::current() const
 {
-  return m_pen_resource == ORQ_MIN_PEN ? m_pen : pen_data(m_pen_resource).m_pen;
+  if (m_pen_resource == ORQ_MIN_PEN)
+    return m_pen;
+  checked_pen_data(m_pen_resource);
+  return orq_gdi_mgr()->get_pen(m_pen_resource);
 }
 
 QPen* ORQ_PEN::get_pen()
 {
   if (m_pen_resource != ORQ_MIN_PEN)
-    m_pen = pen_data(m_pen_resource).m_pen;
+    m_pen = current();
   return &m_pen;
 }
 
 ORQ_COLOR ORQ_PEN::get_color() const
 {
   if (m_pen_resource != ORQ_MIN_PEN) {
-    const ORQ_PEN_DATA& data = pen_data(m_pen_resource);
+    const ORQ_PEN_DATA& data = checked_pen_data(m_pen_resource);
     if (data.m_color != ORQ_MIN_COLOR)
       return ORQ_COLOR(data.m_color);
   }
   return ORQ_COLOR(current().color());
 }
 
-Qt::PenStyle ORQ_PEN::get_style() const { return current().style(); }
-Qt::PenCapStyle ORQ_PEN::get_cap_style() const { return current().capStyle(); }
-int ORQ_PEN::get_width() const { return current().width(); }
+Qt::PenStyle ORQ_PEN::get_style() const
+{
+  return current().style();
+}
+Qt::PenCapStyle ORQ_PEN::get_cap_style() const
+{
+  return current().capStyle();
+}
+int ORQ_PEN::get_width() const
+{
+  return current().width();
+}
 
 void ORQ_PEN::make_literal()
 {
   if (m_pen_resource == ORQ_MIN_PEN)
     return;
-  m_pen = pen_data(m_pen_resource).m_pen;
+  m_pen = current();
   m_pen_resource = ORQ_MIN_PEN;
 }
 
@@ -94,7 +106,7 @@ void ORQ_PEN::set_pen(const QPen& pen)
 void ORQ_PEN::set_pen(ORQ_PEN_RESOURCE pen)
 {
   ORQ_REQUIRE(pen != ORQ_MIN_PEN);
-  pen_data(pen);
+  checked_pen_data(pen);
   m_pen_resource = pen;
 }
 

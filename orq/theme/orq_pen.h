@@ -17,7 +17,7 @@ public:
   bool operator!=(const ORQ_PEN& other) const { return !(*this == other); }
 
   virtual QDataStream& operator>>(QDataStream& stream);
-  virtual QDataStream& operator<<(QDataStream& stream) const;
+  virtual QDataStream& operator<<(QDataStream& stream);
 
   // The pen to paint with: the resource's current pen, or the literal one.
   QPen* get_pen();
@@ -39,7 +39,7 @@ public:
   static void save_pens_in_registry();
 
 private:
-  const QPen& current() const;
+  QPen current() const;
   void make_literal();
 
   ORQ_PEN_RESOURCE m_pen_resource = ORQ_MIN_PEN;

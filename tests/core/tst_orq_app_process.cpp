@@ -335,6 +335,41 @@ private slots:
     else
       QVERIFY2(child.out.contains(problem) && child.err.contains(problem), qPrintable(child.out + child.err));
   }
+
+  void theme_pens_paint_in_the_palette_and_stored_colours_from_the_first_paint_data()
+  {
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QString>("net");
+    QTest::newRow("nothing stored") << QByteArray() << "#1b5e20";
+    QTest::newRow("stored net colour")
+        << QByteArray("[Theme%2FColors]\nColor_version=11\nORQ_GED_NET_COLOR=#123456\n") << "#123456";
+    QTest::newRow("stored by name") << QByteArray(
+                                           "[Theme%2FColors]\nColor_version=11\nORQ_GED_NET_COLOR=navy\n")
+                                    << "#000080";
+    QTest::newRow("stored under an old version")
+        << QByteArray("[Theme%2FColors]\nColor_version=10\nORQ_GED_NET_COLOR=#123456\n") << "#1b5e20";
+  }
+
+  void theme_pens_paint_in_the_palette_and_stored_colours_from_the_first_paint()
+  {
+    QFETCH(QByteArray, stored);
+    QFETCH(QString, net);
+    QTemporaryDir dir;
+    if (!stored.isEmpty()) {
+      const QString path = dir.filePath(QStringLiteral(".config/Vantor/vantor_settings.ini"));
+      QDir().mkpath(QFileInfo(path).absolutePath());
+      QFile file(path);
+      QVERIFY(file.open(QIODevice::WriteOnly));
+      file.write(stored);
+    }
+    const CHILD child = run_helper(dir.path(), {QStringLiteral("theme-paint")});
+    QCOMPARE(child.exit_code, 0);
+    const QString expected = QStringLiteral("first: tracker=#00ff00 net=%1 brush=#00ff00\n"
+                                            "after: tracker=#ff0000 net=%1 brush=#ff0000\n"
+                                            "records: pen=#ff0000 brush=#ff0000\n")
+                                 .arg(net);
+    QCOMPARE(child.out, expected);
+  }
 };
 
 ORQ_TEST_REGISTER(TST_ORQ_APP_PROCESS);

@@ -11,6 +11,8 @@
 //   orq_test_app theme-before-app   a theme colour asked for before the application exists
 //   orq_test_app theme-after-app    a theme colour asked for after the application ended
 //   orq_test_app tool-bar-icons     the tool-bar icon size chosen for the screen, and what was stored
+//   orq_test_app theme-paint        what theme pens and brushes paint in a fresh process whose
+//                                   palette highlight is green, then after it turns red
 #include <orq.h>
 
 #include <gen_internal_error.h>
@@ -20,7 +22,9 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QGuiApplication>
+#include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTest>
@@ -118,6 +122,35 @@ int run(ORQ_APP& app, const QStringList& args)
     const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
     std::printf("screen=%dx%d\nlarge=%d\nstored=%s\n", screen.width(), screen.height(), large ? 1 : 0,
                 has_stored ? (stored ? "true" : "false") : "none");
+    return 0;
+  }
+  if (mode == QLatin1String("theme-paint")) {
+    // No call into the theme before the first paint: what a tool draws
+    // first is what the user sees first.
+    QPalette palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Highlight, QColor(0, 255, 0));
+    QApplication::setPalette(palette);
+    auto painted = [] {
+      QImage image(8, 8, QImage::Format_ARGB32);
+      image.fill(Qt::white);
+      QPainter painter(&image);
+      painter.setPen(*ORQ_PEN(ORQ_RECT_TRACKER_SOLID_PEN).get_pen());
+      painter.drawLine(0, 1, 7, 1);
+      painter.setPen(*ORQ_PEN(ORQ_GED_NET_PEN).get_pen());
+      painter.drawLine(0, 3, 7, 3);
+      painter.fillRect(QRect(0, 5, 8, 2), ORQ_BRUSH(ORQ_WINDOW_HIGHLIGHT_BRUSH).get_brush());
+      painter.end();
+      return QStringLiteral("tracker=%1 net=%2 brush=%3")
+          .arg(image.pixelColor(4, 1).name(), image.pixelColor(4, 3).name(), image.pixelColor(4, 5).name());
+    };
+    std::printf("first: %s\n", qPrintable(painted()));
+    palette.setColor(QPalette::Highlight, QColor(255, 0, 0));
+    QApplication::setPalette(palette);
+    std::printf("after: %s\n", qPrintable(painted()));
+    const ORQ_GDI_MANAGER* mgr = ORQ_GDI_MANAGER::get_instance();
+    std::printf("records: pen=%s brush=%s\n",
+                qPrintable(mgr->get_pen_data(ORQ_RECT_TRACKER_SOLID_PEN)->m_pen.color().name()),
+                qPrintable(mgr->get_brush_data(ORQ_WINDOW_HIGHLIGHT_BRUSH)->m_brush.color().name()));
     return 0;
   }
   if (mode == QLatin1String("theme-after-app")) {
