@@ -27,13 +27,38 @@ QString without_symbol(const char* menu_text)
 }
 
 // The catalogue spells some keys out the way menus print them ("Shift+Right
-// Arrow"); QKeySequence knows those keys only by their short names.
+// Arrow", "Ctrl+Page Down"); QKeySequence knows those keys only by their
+// short names.
+// clang-format off
+const struct {
+  const char* spelled;
+  const char* portable;
+} spelled_keys[] = {
+  {"Left Arrow",  "Left"},
+  {"Right Arrow", "Right"},
+  {"Up Arrow",    "Up"},
+  {"Down Arrow",  "Down"},
+  {"Page Up",     "PgUp"},
+  {"Page Down",   "PgDown"},
+};
+// clang-format on
+
 QKeySequence parse_custom_shortcut(const char* text)
 {
   QString portable = QString::fromUtf8(text);
-  for (const char* key : {"Left", "Right", "Up", "Down"})
-    portable.replace(QLatin1String(key) + QLatin1String(" Arrow"), QLatin1String(key));
+  for (const auto& key : spelled_keys)
+    portable.replace(QLatin1String(key.spelled), QLatin1String(key.portable));
   return QKeySequence(portable, QKeySequence::PortableText);
+}
+
+// A key QKeySequence could not read would never fire and would print as
+// garbage in the tool tip.
+bool has_unknown_key(const QKeySequence& sequence)
+{
+  for (int i = 0; i < sequence.count(); ++i)
+    if ((sequence[uint(i)] & ~Qt::KeyboardModifierMask) == Qt::Key_unknown)
+      return true;
+  return false;
 }
 
 } // namespace
@@ -59,8 +84,12 @@ QAction* orq_create_action(ORQ_ACTION_ENUM action, QObject* parent)
     result->setIcon(orq_get_icon(row->icon));
   if (row->standard_key != QKeySequence::UnknownKey)
     result->setShortcuts(row->standard_key);
-  else if (row->custom_shortcut)
-    result->setShortcut(parse_custom_shortcut(row->custom_shortcut));
+  else if (row->custom_shortcut) {
+    const QKeySequence shortcut = parse_custom_shortcut(row->custom_shortcut);
+    Q_ASSERT(!has_unknown_key(shortcut));
+    if (!has_unknown_key(shortcut))
+      result->setShortcut(shortcut);
+  }
   if (!result->shortcut().isEmpty())
     result->setToolTip(without_symbol(row->menu_text) + QLatin1String(" - ") +
                        result->shortcut().toString(QKeySequence::PortableText));

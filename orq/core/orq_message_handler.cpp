@@ -49,19 +49,18 @@ struct QT_MSG_SWITCHES {
 
 const QT_MSG_SWITCHES& switches()
 {
-  static const QT_MSG_SWITCHES values{
-      gen_config_vars().get_bool(QStringLiteral("qt_msg"), false),
-      gen_config_vars().get_bool(QStringLiteral("qt_msg_with_source"), false),
-      gen_config_vars().get_bool(QStringLiteral("qt_msg_wnd"), false)};
+  static const QT_MSG_SWITCHES values{gen_config_vars().get_bool(QStringLiteral("qt_msg"), false),
+                                      gen_config_vars().get_bool(QStringLiteral("qt_msg_with_source"), false),
+                                      gen_config_vars().get_bool(QStringLiteral("qt_msg_wnd"), false)};
   return values;
 }
 
 void filtering_handler(QtMsgType type, const QMessageLogContext& context, const QString& msg)
 {
   const QtMessageHandler previous = g_previous_handler.load();
-  if ((qEnvironmentVariableIsSet("VANTOR_SHOW_QT_MESSAGES")
-       || qEnvironmentVariableIsSet("VANTOR_ENABLE_QT_MESSAGES"))
-      && previous)
+  if ((qEnvironmentVariableIsSet("VANTOR_SHOW_QT_MESSAGES") ||
+       qEnvironmentVariableIsSet("VANTOR_ENABLE_QT_MESSAGES")) &&
+      previous)
     previous(type, context, msg);
 }
 
@@ -103,11 +102,24 @@ void full_handler(QtMsgType type, const QMessageLogContext& context, const QStri
   const char* type_name = "qUnknown";
   const char* colour = "cyan";
   switch (type) {
-  case QtDebugMsg: type_name = "qDebug"; colour = "black"; break;
-  case QtWarningMsg: type_name = "qWarning"; colour = "blue"; break;
-  case QtCriticalMsg: type_name = "qCritical"; colour = "orange"; break;
-  case QtFatalMsg: type_name = "qFatal"; colour = "red"; break;
-  default: break;
+  case QtDebugMsg:
+    type_name = "qDebug";
+    colour = "black";
+    break;
+  case QtWarningMsg:
+    type_name = "qWarning";
+    colour = "blue";
+    break;
+  case QtCriticalMsg:
+    type_name = "qCritical";
+    colour = "orange";
+    break;
+  case QtFatalMsg:
+    type_name = "qFatal";
+    colour = "red";
+    break;
+  default:
+    break;
   }
 
   if (on.print)
@@ -116,10 +128,11 @@ void full_handler(QtMsgType type, const QMessageLogContext& context, const QStri
 #ifndef ORQ_CUSTOMER_BUILD
   if (on.print) {
     const QString text =
+        // One arg() call each: a message may itself hold "%1" (Qt's own
+        // warnings about arg() do), which a second call would replace.
         on.with_source ? QStringLiteral("%1 (%2:%3): %4\n")
-                             .arg(QLatin1String(type_name), QString::fromUtf8(context.file))
-                             .arg(context.line)
-                             .arg(msg)
+                             .arg(QLatin1String(type_name), QString::fromUtf8(context.file),
+                                  QString::number(context.line), msg)
                        : QStringLiteral("%1: %2\n").arg(QLatin1String(type_name), msg);
     gen_process().debugger_output(text);
     std::fprintf(stderr, "%s", text.toLocal8Bit().constData());
@@ -141,8 +154,8 @@ void full_handler(QtMsgType type, const QMessageLogContext& context, const QStri
     if (edit) {
       const QString html = QStringLiteral("<font face=\"monospace\" color=\"%1\">%2: %3</font>"
                                           "<font color=\"brown\">(%4 ms elapsed)</font>")
-                               .arg(QLatin1String(colour), QLatin1String(type_name), msg)
-                               .arg(elapsed);
+                               .arg(QLatin1String(colour), QLatin1String(type_name), msg.toHtmlEscaped(),
+                                    QString::number(elapsed));
       QMetaObject::invokeMethod(edit.data(), "appendHtml", Qt::QueuedConnection, Q_ARG(QString, html));
     }
   }
@@ -151,7 +164,7 @@ void full_handler(QtMsgType type, const QMessageLogContext& context, const QStri
   if (type == QtFatalMsg)
     gen_internal_error(msg, "ORQ", __FILE__, __LINE__);
 }
-}  // namespace
+} // namespace
 
 void orq_install_filtering_message_handler()
 {

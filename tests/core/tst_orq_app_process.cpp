@@ -279,6 +279,13 @@ private slots:
     QVERIFY2(text.contains(
                  QRegularExpression(QStringLiteral("qCritical: from a worker thread\\(\\d+ ms elapsed\\)"))),
              qPrintable(text));
+    // A message holding "%1" or markup reads as it was written.
+    const QString odd = QStringLiteral("QString::arg: Argument missing: \"%1 of %2\", 7 <b>");
+    QVERIFY2(child.err.contains(QStringLiteral("qWarning: ") + odd + QLatin1Char('\n')),
+             qPrintable(child.err));
+    QVERIFY2(text.contains(QRegularExpression(QStringLiteral("qWarning: ") + QRegularExpression::escape(odd) +
+                                              QStringLiteral("\\(\\d+ ms elapsed\\)"))),
+             qPrintable(text));
   }
 
   void qt_messages_with_source_name_file_and_line()

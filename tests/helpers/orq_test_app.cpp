@@ -102,6 +102,7 @@ int run(ORQ_APP& app, const QStringList& args)
     if (!QTest::qWaitForWindowExposed(&window))
       return 4;
     qWarning("first message");
+    qWarning("QString::arg: Argument missing: \"%%1 of %%2\", 7 <b>");
     std::unique_ptr<QThread> worker(QThread::create([] { qCritical("from a worker thread"); }));
     worker->start();
     worker->wait();
