@@ -16,6 +16,7 @@ std::atomic<GEN_LIBRARY_LOADER*> g_service{nullptr};
 
 // Each thread sees only its own failures, as with dlerror(): one thread's
 // failed load must not overwrite the reason another thread is about to show.
+// Every call starts afresh, so a reason never outlives the call it explains.
 struct FAILURE {
   QString system_error;
   QString data;
@@ -54,8 +55,8 @@ QHash<void*, LOADED>& loaded()
 bool is_file_name(const QString& name)
 {
   static const QRegularExpression versioned_so(QStringLiteral("\\.so(\\.\\d+)+$"));
-  return name.contains(QLatin1Char('/')) || name.endsWith(QLatin1String(".so"))
-         || versioned_so.match(name).hasMatch();
+  return name.contains(QLatin1Char('/')) || name.endsWith(QLatin1String(".so")) ||
+         versioned_so.match(name).hasMatch();
 }
 
 QString executable_dir()
@@ -71,7 +72,7 @@ void* open(const QString& file)
 {
   return dlopen(QFile::encodeName(file).constData(), RTLD_NOW | RTLD_LOCAL);
 }
-}  // namespace
+} // namespace
 
 GEN_LIBRARY_LOADER::~GEN_LIBRARY_LOADER() = default;
 
@@ -84,6 +85,7 @@ QString GEN_LIBRARY_LOADER::file_name_for(const QString& name)
 
 GEN_LIBRARY_LOADER::HANDLE GEN_LIBRARY_LOADER::load(const QString& name)
 {
+  t_failure = FAILURE();
   if (name.isEmpty()) {
     fail(QStringLiteral("No library name was given."), name);
     return nullptr;
@@ -124,6 +126,7 @@ GEN_LIBRARY_LOADER::HANDLE GEN_LIBRARY_LOADER::load(const QString& name)
 
 void* GEN_LIBRARY_LOADER::find_function(HANDLE library, const QString& name)
 {
+  t_failure = FAILURE();
   if (!library) {
     fail(QStringLiteral("No library was given to look for %1 in.").arg(name), QString());
     return nullptr;
@@ -147,6 +150,7 @@ void* GEN_LIBRARY_LOADER::find_function(HANDLE library, const QString& name)
 
 bool GEN_LIBRARY_LOADER::unload(HANDLE library)
 {
+  t_failure = FAILURE();
   std::lock_guard<std::recursive_mutex> lock(g_mutex);
   const auto it = loaded().find(library);
   if (!library || it == loaded().end()) {

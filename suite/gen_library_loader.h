@@ -22,10 +22,11 @@ public:
   // Drops one reference taken by load(); false when library was not loaded
   // by this process's loader or all its references are already dropped.
   virtual bool unload(HANDLE library);
-  // The platform's text for the last failure of this thread, or empty. A
-  // later success does not clear it: read it right after the failing call.
+  // The platform's text for why this thread's last call failed; empty when
+  // it succeeded.
   virtual QString system_error() const;
-  // What the last failure of this thread concerned: the library name as asked for.
+  // What this thread's last failed call concerned: the library name as asked
+  // for; empty when the call succeeded.
   virtual QString error_data() const;
 
   // Where name would be looked for beside the executable; empty for a name

@@ -9,7 +9,7 @@ namespace {
 using K = GEN_MESSAGE_KIND;
 // clang-format off
 const GEN_MESSAGE_DEF k_messages[] = {
-  {189000, "ORQ_FAILED_TO_LOAD_LIBRARY", K::ERROR, "Can't open dockable window -- can't load library \"%1!s!\". %2!s!."},
+  {189000, "ORQ_FAILED_TO_LOAD_LIBRARY", K::OK_ONLY, "Can't open dockable window -- can't load library \"%1!s!\". %2!s!."},
 };
 // clang-format on
 }  // namespace

@@ -16,13 +16,17 @@ std::atomic<GEN_MESSAGE_SERVICE*> g_service{nullptr};
 const char* kind_name(GEN_MESSAGE_KIND kind)
 {
   switch (kind) {
-  case GEN_MESSAGE_KIND::INFO: return "Info";
-  case GEN_MESSAGE_KIND::WARNING: return "Warning";
-  case GEN_MESSAGE_KIND::ERROR: return "Error";
+  case GEN_MESSAGE_KIND::INFO:
+    return "Info";
+  case GEN_MESSAGE_KIND::WARNING:
+    return "Warning";
+  case GEN_MESSAGE_KIND::ERROR:
+  case GEN_MESSAGE_KIND::OK_ONLY:
+    return "Error";
   }
   return "Message";
 }
-}  // namespace
+} // namespace
 
 QString gen_format_message_text(const QString& text, const QStringList& args)
 {
@@ -44,7 +48,7 @@ QString gen_format_message_text(const QString& text, const QStringList& args)
     int index = 0;
     while (j < n && text.at(j).isDigit() && index < 100)
       index = index * 10 + text.at(j++).digitValue();
-    if (j == i + 1) {  // a lone percent sign stands for itself
+    if (j == i + 1) { // a lone percent sign stands for itself
       out += c;
       continue;
     }
@@ -71,8 +75,8 @@ void GEN_MESSAGE_SERVICE::init(int argc, const char* const* argv)
   for (int i = 1; argv && i < argc && argv[i]; ++i)
     if (qstrcmp(argv[i], "-regression") == 0)
       regression = true;
-  const bool debug = qEnvironmentVariableIsSet("VANTOR_DEBUG")
-                     || gen_config_vars().get_bool(QStringLiteral("vantor_debug"), false);
+  const bool debug = qEnvironmentVariableIsSet("VANTOR_DEBUG") ||
+                     gen_config_vars().get_bool(QStringLiteral("vantor_debug"), false);
   std::lock_guard<std::mutex> lock(m_mutex);
   m_regression = m_regression || regression;
   m_debug_enabled = m_debug_enabled || debug;
@@ -119,13 +123,12 @@ void GEN_MESSAGE_SERVICE::warning(const QString& text)
 
 void GEN_MESSAGE_SERVICE::deliver(const GEN_MESSAGE& message)
 {
-  const QString line = message.number
-                           ? QStringLiteral("%1 (%2): %3")
-                                 .arg(QLatin1String(kind_name(message.kind)))
-                                 .arg(message.number)
-                                 .arg(message.text)
-                           : QStringLiteral("%1: %2").arg(QLatin1String(kind_name(message.kind)),
-                                                          message.text);
+  const QString line =
+      message.number ? QStringLiteral("%1 (%2): %3")
+                           .arg(QLatin1String(kind_name(message.kind)))
+                           .arg(message.number)
+                           .arg(message.text)
+                     : QStringLiteral("%1: %2").arg(QLatin1String(kind_name(message.kind)), message.text);
   std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
   std::fflush(stderr);
   debug_log(QLatin1String(kind_name(message.kind)), message.text);
@@ -148,14 +151,18 @@ QMessageBox::StandardButton GEN_MESSAGE_SERVICE::prompt(int number, const QStrin
 {
   const QString text = format_message(number, args);
   debug_log(QStringLiteral("prompt"), text);
+  const GEN_MESSAGE_DEF* def = gen_find_message(number);
+  const bool ok_only = def && def->kind == GEN_MESSAGE_KIND::OK_ONLY;
+  if (ok_only) {
+    buttons = QMessageBox::Ok;
+    default_button = QMessageBox::Ok;
+  }
   if (is_regression_test_mode() || !qobject_cast<QApplication*>(QCoreApplication::instance()))
     return default_button;
-  const GEN_MESSAGE_DEF* def = gen_find_message(number);
   QMessageBox box(parent);
-  box.setIcon(!def                                     ? QMessageBox::Critical
-              : def->kind == GEN_MESSAGE_KIND::ERROR   ? QMessageBox::Critical
-              : def->kind == GEN_MESSAGE_KIND::WARNING ? QMessageBox::Warning
-                                                       : QMessageBox::Information);
+  box.setIcon(!def || ok_only || def->kind == GEN_MESSAGE_KIND::ERROR ? QMessageBox::Critical
+              : def->kind == GEN_MESSAGE_KIND::WARNING                ? QMessageBox::Warning
+                                                                      : QMessageBox::Information);
   box.setWindowTitle(QApplication::applicationDisplayName());
   box.setText(text);
   box.setStandardButtons(buttons);
@@ -186,8 +193,8 @@ void GEN_MESSAGE_SERVICE::debug_log(const QString& tag, const QString& text)
   // A debug log that cannot be written must never disturb the tool.
   if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
     return;
-  const QString line = QStringLiteral("%1 [%2] %3\n")
-                           .arg(QDateTime::currentDateTime().toString(Qt::ISODateWithMs), tag, text);
+  const QString line =
+      QStringLiteral("%1 [%2] %3\n").arg(QDateTime::currentDateTime().toString(Qt::ISODateWithMs), tag, text);
   file.write(line.toUtf8());
 }
 

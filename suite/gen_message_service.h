@@ -13,13 +13,15 @@
 #include <mutex>
 #include <vector>
 
-enum class GEN_MESSAGE_KIND { INFO, WARNING, ERROR };
+// What a catalogue message is: its severity, or OK_ONLY for a failure the
+// user can only acknowledge (its box offers OK and nothing else).
+enum class GEN_MESSAGE_KIND { INFO, WARNING, ERROR, OK_ONLY };
 
 // What a message box asks of the user; it picks the box's icon.
 enum class GEN_PROMPT_TYPE { INFORMATION, WARNING, ERROR, QUESTION };
 
 struct GEN_MESSAGE {
-  int number = 0;  // 0 for a plain warning that is not in the catalogue
+  int number = 0; // 0 for a plain warning that is not in the catalogue
   GEN_MESSAGE_KIND kind = GEN_MESSAGE_KIND::INFO;
   QString text;
 };

@@ -43,24 +43,29 @@ const struct {
 };
 // clang-format on
 
-void post_load_failure(const QString& library, const QString& reason)
+// Message 189000 with what the loader says of its last call: the library
+// concerned (the one asked for, when the loader names none) and its reason.
+void post_load_failure(const QString& library)
 {
-  gen_message_service().post_message(failed_to_load_library, {library, reason});
+  const GEN_LIBRARY_LOADER& loader = gen_library_loader();
+  gen_message_service().post_message(
+      failed_to_load_library,
+      {loader.error_data().isEmpty() ? library : loader.error_data(), loader.system_error()});
 }
 
 // Loads library, posting the failure; null when it could not be loaded.
 GEN_LIBRARY_LOADER::HANDLE load(const QString& library)
 {
-  GEN_LIBRARY_LOADER& loader = gen_library_loader();
-  GEN_LIBRARY_LOADER::HANDLE handle = loader.load(library);
+  GEN_LIBRARY_LOADER::HANDLE handle = gen_library_loader().load(library);
   if (!handle)
-    post_load_failure(loader.error_data().isEmpty() ? library : loader.error_data(), loader.system_error());
+    post_load_failure(library);
   return handle;
 }
 
 // Loads library and calls its entry point through call. A missing entry
 // point leaves the library loaded and says nothing; one that makes no dock
-// is reported and its library unloaded.
+// is reported, as a library that could not be loaded is, and its library
+// unloaded.
 template <typename FUNCTION, typename CALL>
 ORQ_DOCK_WIDGET* load_and_call(const QString& library, const QString& entry, CALL call)
 {
@@ -73,7 +78,7 @@ ORQ_DOCK_WIDGET* load_and_call(const QString& library, const QString& entry, CAL
     return nullptr;
   ORQ_DOCK_WIDGET* dock = call(function);
   if (!dock) {
-    post_load_failure(library, QStringLiteral("%1 made no dockable window").arg(entry));
+    post_load_failure(library);
     loader.unload(handle);
   }
   return dock;
@@ -81,8 +86,7 @@ ORQ_DOCK_WIDGET* load_and_call(const QString& library, const QString& entry, CAL
 
 // Makes a dock in window, or in a new main window when there is none; a
 // window made here goes again if no dock comes of it.
-template <typename MAKE>
-ORQ_DOCK_WIDGET* in_window(ORQ_MAIN_WINDOW* window, MAKE make)
+template <typename MAKE> ORQ_DOCK_WIDGET* in_window(ORQ_MAIN_WINDOW* window, MAKE make)
 {
   std::unique_ptr<ORQ_MAIN_WINDOW> own_window(window ? nullptr : new ORQ_MAIN_WINDOW);
   ORQ_DOCK_WIDGET* dock = make(window ? window : own_window.get());
@@ -127,8 +131,8 @@ ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(ORQ_DOCK_ENUM which, ORQ_MAIN_
     const QStringList parts = module.split(QLatin1Char(':'), Qt::KeepEmptyParts, Qt::CaseSensitive);
     const QString library = parts.at(0);
     const QString base = parts.size() >= 2 ? library + QLatin1Char('_') + parts.at(1) : library;
-    return load_and_call<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(library, base + QStringLiteral("_create_dock_widget"),
-                                                         [into](auto create) { return create(into); });
+    return load_and_call<ORQ_CREATE_DOCK_WIDGET_FUNCTION>(
+        library, base + QStringLiteral("_create_dock_widget"), [into](auto create) { return create(into); });
   });
 }
 
@@ -159,7 +163,8 @@ ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const tinyxml2::XMLElement* el
       [element, parent, flags](auto create) { return create(element, parent, flags); });
 }
 
-ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const std::string& xml, QWidget* parent, Qt::WindowFlags flags)
+ORQ_DOCK_WIDGET* ORQ_DOCK_MGR::create_dock_widget(const std::string& xml, QWidget* parent,
+                                                  Qt::WindowFlags flags)
 {
   tinyxml2::XMLDocument document(true, tinyxml2::PRESERVE_WHITESPACE);
   if (document.Parse(xml.c_str(), xml.size()) != tinyxml2::XML_SUCCESS) {

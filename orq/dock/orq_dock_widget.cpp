@@ -95,6 +95,12 @@ void ORQ_DOCK_WIDGET::setup(QWidget* parent)
   connect(this, &QDockWidget::dockLocationChanged, this, &ORQ_DOCK_WIDGET::dock_location_changed);
   connect(this, &QDockWidget::topLevelChanged, this, &ORQ_DOCK_WIDGET::floating_status_changed);
   connect(m_delay_timer, &QTimer::timeout, this, &ORQ_DOCK_WIDGET::delay_tick);
+  // Features the tool sets are the tool's: a vertical title bar among them
+  // is no longer one the dock added.
+  connect(this, &QDockWidget::featuresChanged, this, [this] {
+    if (!m_setting_own_features)
+      m_added_vertical_title_bar = false;
+  });
 
   m_titlebar = new (std::nothrow) ORQ_DOCK_WIDGET_TITLEBAR_WIDGET(this);
   if (!m_titlebar)
@@ -120,6 +126,13 @@ void ORQ_DOCK_WIDGET::setup(QWidget* parent)
     m_titlebar->set_pin_available(false);
     m_titlebar->set_pushpin_button_visibility(false);
   }
+}
+
+void ORQ_DOCK_WIDGET::set_own_features(DockWidgetFeatures features)
+{
+  m_setting_own_features = true;
+  setFeatures(features);
+  m_setting_own_features = false;
 }
 
 Qt::DockWidgetArea ORQ_DOCK_WIDGET::get_area() const
@@ -372,10 +385,8 @@ void ORQ_DOCK_WIDGET::add_button()
 {
   if (!m_parent)
     return;
-  Qt::DockWidgetArea area = m_parent->dockWidgetArea(this);
-  if (area == Qt::NoDockWidgetArea)
-    area = m_area;
-  const Qt::ToolBarArea bar_area = to_toolbar_area(area);
+  // A dock that is in no area of the window goes to the left bar.
+  const Qt::ToolBarArea bar_area = to_toolbar_area(m_parent->dockWidgetArea(this));
   ORQ_DOCK_WIDGET_BUTTON_BAR* bar = m_parent->get_dock_bar_of_area().value(bar_area);
   if (m_button) {
     // A button moving to another edge leaves its old bar first.
@@ -411,11 +422,19 @@ void ORQ_DOCK_WIDGET::dock_location_changed(Qt::DockWidgetArea area)
   m_area = area;
   if (m_visibility != DETACHED) {
     // Docks along the top and bottom edges carry their title on the left,
-    // leaving the height to their content.
-    if (area == Qt::TopDockWidgetArea || area == Qt::BottomDockWidgetArea)
-      setFeatures(features() | DockWidgetVerticalTitleBar);
-    else if (area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea)
-      setFeatures(features() & ~DockWidgetVerticalTitleBar);
+    // leaving the height to their content. On the left and right the dock
+    // takes back only a vertical title bar it added itself: one the tool
+    // asked for stays.
+    if (area == Qt::TopDockWidgetArea || area == Qt::BottomDockWidgetArea) {
+      if (!(features() & DockWidgetVerticalTitleBar)) {
+        set_own_features(features() | DockWidgetVerticalTitleBar);
+        m_added_vertical_title_bar = true;
+      }
+    } else if ((area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea) &&
+               m_added_vertical_title_bar) {
+      set_own_features(features() & ~DockWidgetVerticalTitleBar);
+      m_added_vertical_title_bar = false;
+    }
   }
   if (m_visibility == MINIMIZED && m_parent && !m_button) {
     m_button = new ORQ_DOCK_WIDGET_BUTTON(this, m_parent);
@@ -430,7 +449,8 @@ void ORQ_DOCK_WIDGET::dock_location_changed(Qt::DockWidgetArea area)
 void ORQ_DOCK_WIDGET::floating_status_changed(bool floating)
 {
   if (floating) {
-    setFeatures(features() & ~DockWidgetVerticalTitleBar);
+    set_own_features(features() & ~DockWidgetVerticalTitleBar);
+    m_added_vertical_title_bar = false;
     m_pinned = true;
     m_visibility = DETACHED;
     m_titlebar->set_pin_available(false);
@@ -493,8 +513,9 @@ bool ORQ_DOCK_WIDGET::event(QEvent* event)
     if (!m_pinned) {
       if (m_delay_timer->isActive())
         m_delay_timer->stop();
-      // Left it: the dock slides back at the next check unless the mouse
-      // returns.
+      // Re-armed, not only stopped: with the timer stopped a slid-out dock
+      // the mouse has left would never slide back. It slides back at the
+      // next check unless the mouse returns.
       if (isVisible() && m_slide_back)
         m_delay_timer->start(slide_back_ms);
     }

@@ -111,6 +111,7 @@ private:
   void remove_button_from_bar();
   void update_title();
   void schedule_repaint();
+  void set_own_features(DockWidgetFeatures features);
 
   QTimer* m_delay_timer = nullptr;
   ORQ_DOCK_WIDGET_TITLEBAR_WIDGET* m_titlebar = nullptr;
@@ -126,4 +127,6 @@ private:
   bool m_pin_available = true;
   QSize m_saved_minimum_size{-1, -1};
   QSize m_saved_maximum_size{-1, -1};
+  bool m_added_vertical_title_bar = false;
+  bool m_setting_own_features = false;
 };

@@ -278,8 +278,9 @@ void ORQ_MDI_AREA::on_web_bitmap_pressed()
 
 void ORQ_MDI_AREA::paintEvent(QPaintEvent* event)
 {
-  // The base class fills what is exposed with the background brush, so the
-  // watermark goes on after it, or it would be painted over.
+  // Deliberately after QMdiArea paints, not before: the base class fills
+  // what is exposed with the background brush and would paint the
+  // watermark over.
   QMdiArea::paintEvent(event);
   if (m_watermark_pixmap.isNull())
     return;

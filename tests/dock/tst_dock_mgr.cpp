@@ -37,7 +37,8 @@ private slots:
   void initTestCase()
   {
     orq_test_strict_messages();
-    m_listener = gen_message_service().add_listener([this](const GEN_MESSAGE& message) { m_messages << message; });
+    m_listener =
+        gen_message_service().add_listener([this](const GEN_MESSAGE& message) { m_messages << message; });
   }
   void cleanupTestCase() { gen_message_service().remove_listener(m_listener); }
   void init() { m_messages.clear(); }
@@ -67,21 +68,29 @@ private slots:
     QTest::addColumn<QString>("title");   // empty: no dock
     QTest::addColumn<QString>("library"); // named by message 189000, empty: no message
     QTest::newRow("a whole library") << "orq_test_docks"
-                                     << "Whole library" << "";
+                                     << "Whole library"
+                                     << "";
     QTest::newRow("a view of a library") << "orq_test_docks:panel"
-                                         << "Panel view" << "";
+                                         << "Panel view"
+                                         << "";
     QTest::newRow("a view that makes nothing") << "orq_test_docks:empty"
-                                               << "" << "orq_test_docks";
+                                               << ""
+                                               << "orq_test_docks";
     QTest::newRow("a missing entry point") << "orq_test_docks:no_such_view"
-                                           << "" << "";
+                                           << ""
+                                           << "";
     QTest::newRow("an empty view name") << "orq_test_docks:"
-                                        << "" << "";
+                                        << ""
+                                        << "";
     QTest::newRow("a missing library") << "orq_test_no_such_library"
-                                       << "" << "orq_test_no_such_library";
+                                       << ""
+                                       << "orq_test_no_such_library";
     QTest::newRow("a missing library with a view") << "orq_test_no_such_library:panel"
-                                                   << "" << "orq_test_no_such_library";
+                                                   << ""
+                                                   << "orq_test_no_such_library";
     QTest::newRow("no module") << ""
-                               << "" << "";
+                               << ""
+                               << "";
   }
 
   void creates_docks_from_libraries_by_name()
@@ -119,7 +128,21 @@ private slots:
     QVERIFY(!why.isEmpty());
     QCOMPARE(posted(189000).size(), 1);
     QCOMPARE(posted(189000).first().text, message_189000(gen_library_loader().error_data(), why));
-    QCOMPARE(posted(189000).first().kind, GEN_MESSAGE_KIND::ERROR);
+    QCOMPARE(posted(189000).first().kind, GEN_MESSAGE_KIND::OK_ONLY);
+  }
+
+  void an_entry_point_that_makes_nothing_is_reported_with_the_loaders_words()
+  {
+    ORQ_MAIN_WINDOW window;
+    // A failure earlier in the thread must not be what the message says.
+    QVERIFY(!gen_library_loader().load(QStringLiteral("orq_test_earlier_failure")));
+    window.get_dock_mgr()->set_module(ORQ_DOCK_REPORTS, QStringLiteral("orq_test_docks:empty"));
+    QVERIFY(!window.get_dock_mgr()->create_dock_widget(ORQ_DOCK_REPORTS, &window));
+    const QList<GEN_MESSAGE> messages = posted(189000);
+    QCOMPARE(messages.size(), 1);
+    // The loader says nothing went wrong in loading: no reason of its own.
+    QCOMPARE(messages.last().text, message_189000(QStringLiteral("orq_test_docks"), QString()));
+    QCOMPARE(messages.last().kind, GEN_MESSAGE_KIND::OK_ONLY);
   }
 
   void the_three_argument_form_takes_the_module_whole_data()
@@ -140,7 +163,8 @@ private slots:
     QFETCH(QString, title);
     ORQ_MAIN_WINDOW window;
     window.get_dock_mgr()->set_module(ORQ_DOCK_TASKS, module);
-    ORQ_DOCK_WIDGET* dock = window.get_dock_mgr()->create_dock_widget(ORQ_DOCK_TASKS, ORQ_DOCK_FROM_ENUM(from), &window);
+    ORQ_DOCK_WIDGET* dock =
+        window.get_dock_mgr()->create_dock_widget(ORQ_DOCK_TASKS, ORQ_DOCK_FROM_ENUM(from), &window);
     QCOMPARE(dock ? dock->windowTitle() : QString(), title);
     QCOMPARE(posted(189000).size(), title.isEmpty() ? 1 : 0);
     if (title.isEmpty())
@@ -179,25 +203,26 @@ private slots:
     const int defaults = int(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable |
                              QDockWidget::DockWidgetFloatable);
     QTest::newRow("title and features")
-        << QStringLiteral("<dock>%1%2<setWindowTitle>Timing</setWindowTitle><setFeatures><f>DockWidgetMovable</f>"
-                          "<f>DockWidgetClosable</f></setFeatures></dock>")
+        << QStringLiteral(
+               "<dock>%1%2<setWindowTitle>Timing</setWindowTitle><setFeatures><f>DockWidgetMovable</f>"
+               "<f>DockWidgetClosable</f></setFeatures></dock>")
                .arg(lib, fn)
         << "Timing" << 3 << 0 << "";
     QTest::newRow("any element name, unknown children ignored")
-        << QStringLiteral("<panel><x/>%1<y>z</y>%2<setWindowTitle>P</setWindowTitle></panel>").arg(lib, fn) << "P"
-        << defaults << 0 << "";
+        << QStringLiteral("<panel><x/>%1<y>z</y>%2<setWindowTitle>P</setWindowTitle></panel>").arg(lib, fn)
+        << "P" << defaults << 0 << "";
     QTest::newRow("no library") << QStringLiteral("<dock>%1</dock>").arg(fn) << "" << 0 << 0 << "";
-    QTest::newRow("an empty library name") << QStringLiteral("<dock><dll_name></dll_name>%1</dock>").arg(fn) << ""
-                                           << 0 << 0 << "";
+    QTest::newRow("an empty library name")
+        << QStringLiteral("<dock><dll_name></dll_name>%1</dock>").arg(fn) << "" << 0 << 0 << "";
     QTest::newRow("no entry point") << QStringLiteral("<dock>%1</dock>").arg(lib) << "" << 0 << 0 << "";
     QTest::newRow("a missing entry point")
-        << QStringLiteral("<dock>%1<access_function>nothing_here</access_function></dock>").arg(lib) << "" << 0 << 0
-        << "";
+        << QStringLiteral("<dock>%1<access_function>nothing_here</access_function></dock>").arg(lib) << ""
+        << 0 << 0 << "";
     QTest::newRow("a missing library")
-        << QStringLiteral("<dock><dll_name>orq_test_no_such_library</dll_name>%1</dock>").arg(fn) << "" << 0 << 1
-        << "";
-    QTest::newRow("malformed") << QStringLiteral("<dock>%1%2<setWindowTitle>T</dock>").arg(lib, fn) << "" << 0 << 0
-                               << "Dock description could not be read";
+        << QStringLiteral("<dock><dll_name>orq_test_no_such_library</dll_name>%1</dock>").arg(fn) << "" << 0
+        << 1 << "";
+    QTest::newRow("malformed") << QStringLiteral("<dock>%1%2<setWindowTitle>T</dock>").arg(lib, fn) << "" << 0
+                               << 0 << "Dock description could not be read";
     QTest::newRow("empty text") << QString() << "" << 0 << 0 << "Dock description could not be read";
     QTest::newRow("not XML at all") << QStringLiteral("\x01\x02 dock") << "" << 0 << 0
                                     << "Dock description could not be read";
@@ -206,8 +231,8 @@ private slots:
       deep += QStringLiteral("<a>");
     QTest::newRow("nested beyond reason") << deep << "" << 0 << 0 << "Dock description could not be read";
     QTest::newRow("entities are expanded")
-        << QStringLiteral("<dock>%1%2<setWindowTitle>A &amp; B</setWindowTitle></dock>").arg(lib, fn) << "A & B"
-        << defaults << 0 << "";
+        << QStringLiteral("<dock>%1%2<setWindowTitle>A &amp; B</setWindowTitle></dock>").arg(lib, fn)
+        << "A & B" << defaults << 0 << "";
   }
 
   void creates_docks_from_descriptions()

@@ -65,7 +65,10 @@ struct WINDOW {
     return QTest::qWaitForWindowExposed(&window);
   }
 
-  ORQ_DOCK_WIDGET_BUTTON_BAR* bar(Qt::ToolBarArea area) const { return window.get_dock_bar_of_area().value(area); }
+  ORQ_DOCK_WIDGET_BUTTON_BAR* bar(Qt::ToolBarArea area) const
+  {
+    return window.get_dock_bar_of_area().value(area);
+  }
 };
 
 QToolButton* titlebar_button(ORQ_DOCK_WIDGET* dock, ORQ_DOCK_WIDGET_TITLEBAR_WIDGET_BUTTON_ENUM which)
@@ -139,7 +142,8 @@ private slots:
     QTest::newRow("left") << int(Qt::LeftDockWidgetArea) << int(Qt::LeftToolBarArea);
     QTest::newRow("right") << int(Qt::RightDockWidgetArea) << int(Qt::RightToolBarArea);
     QTest::newRow("top, vertical title bar") << int(Qt::TopDockWidgetArea) << int(Qt::TopToolBarArea);
-    QTest::newRow("bottom, vertical title bar") << int(Qt::BottomDockWidgetArea) << int(Qt::BottomToolBarArea);
+    QTest::newRow("bottom, vertical title bar")
+        << int(Qt::BottomDockWidgetArea) << int(Qt::BottomToolBarArea);
   }
 
   void unpinning_leaves_a_button_in_the_bar_of_its_edge()
@@ -211,22 +215,24 @@ private slots:
     QTest::addColumn<QPoint>("offset"); // from the dock's top-left, or from its top-right with x < 0
     QTest::addColumn<bool>("from_right");
     QTest::addColumn<bool>("stays");
-    QTest::newRow("right dock, mouse inside") << int(Qt::RightDockWidgetArea) << QPoint(20, 20) << false << true;
-    QTest::newRow("right dock, mouse far to the right") << int(Qt::RightDockWidgetArea) << QPoint(200, 20) << true
-                                                        << true;
-    QTest::newRow("right dock, mouse just left of it") << int(Qt::RightDockWidgetArea) << QPoint(-2, 20) << false
-                                                       << true;
+    QTest::newRow("right dock, mouse inside")
+        << int(Qt::RightDockWidgetArea) << QPoint(20, 20) << false << true;
+    QTest::newRow("right dock, mouse far to the right")
+        << int(Qt::RightDockWidgetArea) << QPoint(200, 20) << true << true;
+    QTest::newRow("right dock, mouse just left of it")
+        << int(Qt::RightDockWidgetArea) << QPoint(-2, 20) << false << true;
     QTest::newRow("right dock, mouse left beyond the margin")
         << int(Qt::RightDockWidgetArea) << QPoint(-10, 20) << false << false;
-    QTest::newRow("bottom dock, mouse below it") << int(Qt::BottomDockWidgetArea) << QPoint(20, 500) << false
-                                                 << true;
+    QTest::newRow("bottom dock, mouse below it")
+        << int(Qt::BottomDockWidgetArea) << QPoint(20, 500) << false << true;
     QTest::newRow("bottom dock, mouse above beyond the margin")
         << int(Qt::BottomDockWidgetArea) << QPoint(20, -10) << false << false;
-    QTest::newRow("left dock, mouse within the fixed slack") << int(Qt::LeftDockWidgetArea) << QPoint(2, 20) << true
-                                                             << true;
-    QTest::newRow("left dock, mouse right of it") << int(Qt::LeftDockWidgetArea) << QPoint(10, 20) << true << false;
-    QTest::newRow("left dock, mouse over the bar") << int(Qt::LeftDockWidgetArea) << QPoint(-10, 20) << false
-                                                   << false;
+    QTest::newRow("left dock, mouse within the fixed slack")
+        << int(Qt::LeftDockWidgetArea) << QPoint(2, 20) << true << true;
+    QTest::newRow("left dock, mouse right of it")
+        << int(Qt::LeftDockWidgetArea) << QPoint(10, 20) << true << false;
+    QTest::newRow("left dock, mouse over the bar")
+        << int(Qt::LeftDockWidgetArea) << QPoint(-10, 20) << false << false;
   }
 
   void slide_back_follows_the_margin_rule()
@@ -277,8 +283,8 @@ private slots:
     QTest::mouseClick(unpinned->get_button(), Qt::LeftButton);
     QVERIFY(unpinned->isVisible());
     // A press inside the slid-out dock keeps it.
-    QMouseEvent inside(QEvent::MouseButtonPress, QPointF(5, 5), unpinned->mapToGlobal(QPoint(5, 5)), Qt::LeftButton,
-                       Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent inside(QEvent::MouseButtonPress, QPointF(5, 5), unpinned->mapToGlobal(QPoint(5, 5)),
+                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     w.window.hide_unpinned_widgets(&inside);
     QVERIFY(unpinned->isVisible());
     QTest::mouseClick(w.central, Qt::LeftButton, Qt::NoModifier, w.central->rect().center());
@@ -341,6 +347,63 @@ private slots:
     QCOMPARE(dock->get_visibility(), VISIBLE);
     QVERIFY(!dock->findChild<QToolButton*>("m_pin_button_v")->isHidden());
     QVERIFY(dock->get_titlebar()->is_pin_available());
+  }
+
+  void a_vertical_title_bar_the_tool_asked_for_stays_on_every_edge_data()
+  {
+    QTest::addColumn<int>("how"); // 0 setFeatures before docking, 1 description, 2 setFeatures on top
+    QTest::newRow("features set by the tool") << 0;
+    QTest::newRow("features from a description") << 1;
+    QTest::newRow("features set anew while on top") << 2;
+  }
+
+  void a_vertical_title_bar_the_tool_asked_for_stays_on_every_edge()
+  {
+    QFETCH(int, how);
+    WINDOW w;
+    const QDockWidget::DockWidgetFeatures asked =
+        QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetVerticalTitleBar;
+    ORQ_DOCK_WIDGET* dock = nullptr;
+    if (how == 1) {
+      dock = new ORQ_DOCK_WIDGET(&w.window, Qt::WindowFlags(),
+                                 "<dock><setFeatures><f>DockWidgetClosable</f>"
+                                 "<f>DockWidgetVerticalTitleBar</f></setFeatures></dock>");
+      dock->setWidget(new QLabel(QStringLiteral("described")));
+      w.window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    } else {
+      dock = w.dock(QStringLiteral("Messages"), how == 0 ? Qt::LeftDockWidgetArea : Qt::TopDockWidgetArea);
+      if (how == 0)
+        dock->setFeatures(asked);
+    }
+    QVERIFY(w.show());
+    if (how == 2) {
+      QTRY_COMPARE(dock->get_area(), Qt::TopDockWidgetArea);
+      dock->setFeatures(asked);
+    }
+    QCOMPARE(dock->features(), asked);
+    for (Qt::DockWidgetArea area :
+         {Qt::TopDockWidgetArea, Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea, Qt::LeftDockWidgetArea}) {
+      w.window.addDockWidget(area, dock);
+      QTRY_COMPARE(dock->get_area(), area);
+      QCOMPARE(dock->features(), asked);
+      QVERIFY(dock->get_titlebar()->findChild<QFrame*>("m_frame_v")->isVisible());
+    }
+  }
+
+  void a_dock_in_no_area_hides_into_the_left_bar()
+  {
+    WINDOW w;
+    ORQ_DOCK_WIDGET* docked = w.dock(QStringLiteral("Docked"), Qt::RightDockWidgetArea);
+    auto* loose = new ORQ_DOCK_WIDGET(QStringLiteral("Loose"), &w.window);
+    QVERIFY(w.show());
+    QTRY_COMPARE(docked->get_area(), Qt::RightDockWidgetArea);
+    loose->set_area(Qt::RightDockWidgetArea);
+    QCOMPARE(w.window.dockWidgetArea(loose), Qt::NoDockWidgetArea);
+    loose->add_button();
+    QVERIFY(loose->get_button());
+    QCOMPARE(loose->get_button()->get_area(), Qt::LeftToolBarArea);
+    QVERIFY(w.bar(Qt::LeftToolBarArea)->get_button_action_map().contains(loose->get_button()));
+    QVERIFY(!w.bar(Qt::RightToolBarArea)->get_button_action_map().contains(loose->get_button()));
   }
 
   void an_unpinned_dock_that_floats_leaves_its_bar()
@@ -441,7 +504,8 @@ private slots:
     w.window.addDockWidget(Qt::BottomDockWidgetArea, dock);
     QTRY_COMPARE(extra->parentWidget()->objectName(), QStringLiteral("m_frame_v"));
     QVERIFY(extra->isVisible());
-    QCOMPARE(names_in(extra->parentWidget()->layout()).mid(5), QStringList({"m_float_button_v", "extra", "m_title_v"}));
+    QCOMPARE(names_in(extra->parentWidget()->layout()).mid(5),
+             QStringList({"m_float_button_v", "extra", "m_title_v"}));
   }
 
   void descriptions_customise_title_and_features_data()
@@ -451,23 +515,27 @@ private slots:
     QTest::addColumn<int>("features");
     const QString start = QStringLiteral("<d><setWindowTitle>Before</setWindowTitle></d>");
     const int defaults = 7;
-    QTest::newRow("movable and closable") << "<d><setFeatures><a>DockWidgetMovable</a><b>DockWidgetClosable</b>"
-                                             "</setFeatures></d>"
-                                          << "Before" << 3;
+    QTest::newRow("movable and closable")
+        << "<d><setFeatures><a>DockWidgetMovable</a><b>DockWidgetClosable</b>"
+           "</setFeatures></d>"
+        << "Before" << 3;
     QTest::newRow("unknown names change nothing")
-        << "<d><setFeatures><a>Sticky</a><b>dockwidgetmovable</b></setFeatures></d>" << "Before" << defaults;
-    QTest::newRow("no features clears them") << "<d><setFeatures><a>NoDockWidgetFeatures</a></setFeatures></d>"
-                                             << "Before" << 0;
+        << "<d><setFeatures><a>Sticky</a><b>dockwidgetmovable</b></setFeatures></d>"
+        << "Before" << defaults;
+    QTest::newRow("no features clears them")
+        << "<d><setFeatures><a>NoDockWidgetFeatures</a></setFeatures></d>"
+        << "Before" << 0;
     QTest::newRow("all of them") << "<d><setFeatures><x>AllDockWidgetFeatures</x></setFeatures></d>"
                                  << "Before" << 7;
     QTest::newRow("vertical title bar") << "<d><setFeatures><x>DockWidgetVerticalTitleBar</x><x/>"
                                            "<x>DockWidgetFloatable</x></setFeatures></d>"
                                         << "Before" << 12;
-    QTest::newRow("empty feature list") << "<d><setFeatures/></d>" << "Before" << defaults;
-    QTest::newRow("a new title") << "<d><setWindowTitle>Timing Paths</setWindowTitle></d>" << "Timing Paths"
-                                 << defaults;
-    QTest::newRow("an empty title keeps the old one") << "<d><setWindowTitle></setWindowTitle></d>" << "Before"
-                                                      << defaults;
+    QTest::newRow("empty feature list") << "<d><setFeatures/></d>"
+                                        << "Before" << defaults;
+    QTest::newRow("a new title") << "<d><setWindowTitle>Timing Paths</setWindowTitle></d>"
+                                 << "Timing Paths" << defaults;
+    QTest::newRow("an empty title keeps the old one") << "<d><setWindowTitle></setWindowTitle></d>"
+                                                      << "Before" << defaults;
     QTest::newRow("nested title element is not text") << "<d><setWindowTitle><b>x</b></setWindowTitle></d>"
                                                       << "Before" << defaults;
   }

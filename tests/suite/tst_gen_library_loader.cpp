@@ -28,7 +28,10 @@ int call(void* function)
 // A loader of its own kind: bare names are taken from one directory only.
 class DIRECTORY_LOADER : public GEN_LIBRARY_LOADER {
 public:
-  explicit DIRECTORY_LOADER(const QString& dir) : m_dir(dir) {}
+  explicit DIRECTORY_LOADER(const QString& dir)
+      : m_dir(dir)
+  {
+  }
   HANDLE load(const QString& name) override
   {
     return GEN_LIBRARY_LOADER::load(m_dir + QStringLiteral("/lib") + name + QStringLiteral(".so"));
@@ -37,7 +40,7 @@ public:
 private:
   QString m_dir;
 };
-}  // namespace
+} // namespace
 
 class TST_GEN_LIBRARY_LOADER : public QObject {
   Q_OBJECT
@@ -73,11 +76,16 @@ private slots:
   {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("mentioned");
-    QTest::newRow("bare name") << "orq_no_such_library" << "liborq_no_such_library.so";
-    QTest::newRow("full path") << "/nonexistent/orq/libgone.so" << "/nonexistent/orq/libgone.so";
-    QTest::newRow("file name") << "liborq_no_such_library.so" << "liborq_no_such_library.so";
-    QTest::newRow("versioned file name") << "liborq_no_such_library.so.3" << "liborq_no_such_library.so.3";
-    QTest::newRow("relative path") << "plugins/liborq_gone.so" << "plugins/liborq_gone.so";
+    QTest::newRow("bare name") << "orq_no_such_library"
+                               << "liborq_no_such_library.so";
+    QTest::newRow("full path") << "/nonexistent/orq/libgone.so"
+                               << "/nonexistent/orq/libgone.so";
+    QTest::newRow("file name") << "liborq_no_such_library.so"
+                               << "liborq_no_such_library.so";
+    QTest::newRow("versioned file name") << "liborq_no_such_library.so.3"
+                                         << "liborq_no_such_library.so.3";
+    QTest::newRow("relative path") << "plugins/liborq_gone.so"
+                                   << "plugins/liborq_gone.so";
     QTest::newRow("a directory") << QDir::tempPath() << QDir::tempPath();
   }
 
@@ -106,10 +114,46 @@ private slots:
     GEN_LIBRARY_LOADER::HANDLE library = loader.load(k_plugin_a);
     QVERIFY(library);
     QVERIFY(!loader.find_function(library, QStringLiteral("orq_no_such_symbol")));
-    QVERIFY2(loader.system_error().contains(QStringLiteral("orq_no_such_symbol")), qPrintable(loader.system_error()));
+    QVERIFY2(loader.system_error().contains(QStringLiteral("orq_no_such_symbol")),
+             qPrintable(loader.system_error()));
     QCOMPARE(loader.error_data(), k_plugin_a);
     QCOMPARE(call(loader.find_function(library, QStringLiteral("orq_test_plugin_a_answer"))), 42);
     QVERIFY(loader.unload(library));
+  }
+
+  void a_reason_lasts_until_the_next_call_data()
+  {
+    QTest::addColumn<int>("next"); // 0 load, 1 find_function, 2 unload
+    QTest::newRow("a load that succeeds") << 0;
+    QTest::newRow("a symbol that is found") << 1;
+    QTest::newRow("an unload that succeeds") << 2;
+  }
+
+  void a_reason_lasts_until_the_next_call()
+  {
+    QFETCH(int, next);
+    GEN_LIBRARY_LOADER& loader = gen_library_loader();
+    GEN_LIBRARY_LOADER::HANDLE library = loader.load(k_plugin_a);
+    QVERIFY(library);
+    QVERIFY(!loader.load(QStringLiteral("orq_no_such_library")));
+    QCOMPARE(loader.error_data(), QStringLiteral("orq_no_such_library"));
+    QVERIFY(!loader.system_error().isEmpty());
+    // Whatever succeeds next must not be explained by the old failure.
+    switch (next) {
+    case 0:
+      QVERIFY(loader.unload(loader.load(k_plugin_a)));
+      break;
+    case 1:
+      QVERIFY(loader.find_function(library, QStringLiteral("orq_test_plugin_a_answer")));
+      break;
+    case 2:
+      break;
+    }
+    if (next != 2)
+      QCOMPARE(loader.system_error(), QString());
+    QVERIFY(loader.unload(library));
+    QCOMPARE(loader.system_error(), QString());
+    QCOMPARE(loader.error_data(), QString());
   }
 
   void find_function_needs_a_loaded_library()
@@ -175,7 +219,8 @@ private slots:
       threads.emplace_back([&] {
         for (int i = 0; i < 50; ++i) {
           GEN_LIBRARY_LOADER::HANDLE library = loader.load(k_plugin_a);
-          if (library && call(loader.find_function(library, QStringLiteral("orq_test_plugin_a_answer"))) == 42)
+          if (library &&
+              call(loader.find_function(library, QStringLiteral("orq_test_plugin_a_answer"))) == 42)
             ++answers;
           loader.unload(library);
         }
@@ -192,10 +237,14 @@ private slots:
     QTest::addColumn<QString>("expected");
     const QString dir = QCoreApplication::applicationDirPath();
     QTest::newRow("bare name") << "orq_tool_windows" << dir + "/liborq_tool_windows.so";
-    QTest::newRow("file name") << "liborq_tool_windows.so" << "";
-    QTest::newRow("versioned file name") << "liborq_tool_windows.so.2" << "";
-    QTest::newRow("path") << "tools/orq_tool_windows" << "";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("file name") << "liborq_tool_windows.so"
+                               << "";
+    QTest::newRow("versioned file name") << "liborq_tool_windows.so.2"
+                                         << "";
+    QTest::newRow("path") << "tools/orq_tool_windows"
+                          << "";
+    QTest::newRow("empty") << ""
+                           << "";
   }
 
   void file_name_for_is_beside_the_executable()
@@ -218,24 +267,30 @@ private slots:
     const QString b = QStringLiteral("orq_test_plugin_b");
     const QString fa = QStringLiteral("orq_test_plugin_a_answer");
     const QString fb = QStringLiteral("orq_test_plugin_b_answer");
-    const QString beside_a = QStringLiteral("beside: ") + k_plugin_dir + QStringLiteral("/liborq_test_plugin_a.so");
-    const QString beside_b = QStringLiteral("beside: ") + k_plugin_dir + QStringLiteral("/liborq_test_plugin_b.so");
+    const QString beside_a =
+        QStringLiteral("beside: ") + k_plugin_dir + QStringLiteral("/liborq_test_plugin_a.so");
+    const QString beside_b =
+        QStringLiteral("beside: ") + k_plugin_dir + QStringLiteral("/liborq_test_plugin_b.so");
     QTest::newRow("search path") << b << fb << k_search_dir << false << QStringList{beside_b, "answer: 7"};
-    QTest::newRow("search path, with an application") << b << fb << k_search_dir << true
-                                                      << QStringList{beside_b, "answer: 7"};
-    QTest::newRow("beside the executable") << a << fa << QString() << false << QStringList{beside_a, "answer: 42"};
+    QTest::newRow("search path, with an application")
+        << b << fb << k_search_dir << true << QStringList{beside_b, "answer: 7"};
+    QTest::newRow("beside the executable")
+        << a << fa << QString() << false << QStringList{beside_a, "answer: 42"};
     QTest::newRow("beside the executable, with an application")
         << a << fa << QString() << true << QStringList{beside_a, "answer: 42"};
     QTest::newRow("beside the executable while a search path is set")
         << a << fa << k_search_dir << false << QStringList{beside_a, "answer: 42"};
     QTest::newRow("not on the search path")
         << b << fb << QString() << false
-        << QStringList{beside_b, "error: liborq_test_plugin_b.so: cannot open shared object file: No such file or directory",
-                       "data: orq_test_plugin_b"};
+        << QStringList{
+               beside_b,
+               "error: liborq_test_plugin_b.so: cannot open shared object file: No such file or directory",
+               "data: orq_test_plugin_b"};
     QTest::newRow("missing function") << a << fb << QString() << false
-                                      << QStringList{beside_a, "error: " + k_plugin_dir
-                                                                   + "/liborq_test_plugin_a.so: undefined symbol: "
-                                                                     "orq_test_plugin_b_answer",
+                                      << QStringList{beside_a,
+                                                     "error: " + k_plugin_dir +
+                                                         "/liborq_test_plugin_a.so: undefined symbol: "
+                                                         "orq_test_plugin_b_answer",
                                                      "data: orq_test_plugin_a"};
   }
 
@@ -274,7 +329,8 @@ private slots:
     QCOMPARE(&gen_library_loader(), static_cast<GEN_LIBRARY_LOADER*>(&own));
     GEN_LIBRARY_LOADER::HANDLE library = gen_library_loader().load(QStringLiteral("orq_test_plugin_a"));
     QVERIFY2(library, qPrintable(gen_library_loader().system_error()));
-    QCOMPARE(call(gen_library_loader().find_function(library, QStringLiteral("orq_test_plugin_a_answer"))), 42);
+    QCOMPARE(call(gen_library_loader().find_function(library, QStringLiteral("orq_test_plugin_a_answer"))),
+             42);
     QVERIFY(gen_library_loader().unload(library));
     gen_set_library_loader(nullptr);
     QCOMPARE(&gen_library_loader(), &default_loader);

@@ -5,7 +5,11 @@
 #include <gen_undo_redo_mgr.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QUndoCommand>
 
 #include <stdexcept>
@@ -35,7 +39,7 @@ private:
   QStringList* m_list;
   QString m_item;
 };
-}  // namespace
+} // namespace
 
 class TST_GEN_MESSAGE_SERVICE : public QObject {
   Q_OBJECT
@@ -47,12 +51,14 @@ private slots:
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("typed arguments") << "%1!s! has %2!d! pins" << QStringList{"u_pll", "12"} << "u_pll has 12 pins";
+    QTest::newRow("typed arguments") << "%1!s! has %2!d! pins" << QStringList{"u_pll", "12"}
+                                     << "u_pll has 12 pins";
     QTest::newRow("plain arguments in any order") << "%2 before %1" << QStringList{"a", "b"} << "b before a";
     QTest::newRow("doubled percent") << "100%% of %1" << QStringList{"x"} << "100% of x";
     QTest::newRow("lone percent sign") << "100% done" << QStringList{} << "100% done";
     QTest::newRow("missing argument expands to nothing") << "[%1!s!][%2!s!]" << QStringList{"a"} << "[a][]";
-    QTest::newRow("two-digit index") << "%10!s!" << QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "ten"}
+    QTest::newRow("two-digit index") << "%10!s!"
+                                     << QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "ten"}
                                      << "ten";
     QTest::newRow("unterminated tag keeps the rest") << "%1!s" << QStringList{"a"} << "a!s";
   }
@@ -75,7 +81,7 @@ private slots:
     service.post_message(189000, {QStringLiteral("ignored"), QStringLiteral("ignored")});
     QCOMPARE(seen.size(), 1);
     QCOMPARE(seen.first().number, 189000);
-    QCOMPARE(seen.first().kind, GEN_MESSAGE_KIND::ERROR);
+    QCOMPARE(seen.first().kind, GEN_MESSAGE_KIND::OK_ONLY);
     QCOMPARE(seen.first().text, QStringLiteral("Can't open dockable window -- can't load library "
                                                "\"libfloorplan_docks.so\". No such file."));
   }
@@ -93,8 +99,10 @@ private slots:
     QTest::addColumn<bool>("regression");
     QTest::addColumn<bool>("debug");
     QTest::newRow("plain") << QStringList{"tool"} << QByteArray() << false << false;
-    QTest::newRow("-regression argument") << QStringList{"tool", "-regression"} << QByteArray() << true << false;
-    QTest::newRow("VANTOR_REGRESSION_TEST") << QStringList{"tool"} << QByteArray("VANTOR_REGRESSION_TEST") << true << false;
+    QTest::newRow("-regression argument")
+        << QStringList{"tool", "-regression"} << QByteArray() << true << false;
+    QTest::newRow("VANTOR_REGRESSION_TEST")
+        << QStringList{"tool"} << QByteArray("VANTOR_REGRESSION_TEST") << true << false;
     QTest::newRow("VANTOR_DEBUG") << QStringList{"tool"} << QByteArray("VANTOR_DEBUG") << false << true;
   }
 
@@ -118,10 +126,32 @@ private slots:
       qunsetenv(env.constData());
     QCOMPARE(service.is_regression_test_mode(), regression);
     QCOMPARE(service.is_debug_enabled(), debug);
-    // In regression-test mode nothing waits for a click.
+    // In regression-test mode nothing waits for a click; an OK-only message
+    // is answered OK.
     if (regression)
       QCOMPARE(service.prompt(189000, {}, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel),
-               QMessageBox::Cancel);
+               QMessageBox::Ok);
+  }
+
+  void an_ok_only_message_offers_ok_alone()
+  {
+    GEN_MESSAGE_SERVICE service;
+    QMessageBox::StandardButtons offered;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box)
+        return;
+      offered = box->standardButtons();
+      icon = box->icon();
+      box->button(QMessageBox::Ok) ? box->button(QMessageBox::Ok)->click() : box->reject();
+    });
+    const QMessageBox::StandardButton answer =
+        service.prompt(189000, {QStringLiteral("lib"), QStringLiteral("why")},
+                       QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    QCOMPARE(offered, QMessageBox::StandardButtons(QMessageBox::Ok));
+    QCOMPARE(icon, QMessageBox::Critical);
+    QCOMPARE(answer, QMessageBox::Ok);
   }
 
   void debug_log_is_written_where_asked()
