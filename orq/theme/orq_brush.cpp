@@ -55,7 +55,6 @@ QBrush ORQ_BRUSH::get_brush() const
 {
   if (m_brush_resource == ORQ_MIN_BRUSH)
     return m_brush;
-  checked_brush_data(m_brush_resource);
   return orq_gdi_mgr()->get_brush(m_brush_resource);
 }
 

@@ -55,7 +55,6 @@ QPen ORQ_PEN::current() const
 {
   if (m_pen_resource == ORQ_MIN_PEN)
     return m_pen;
-  checked_pen_data(m_pen_resource);
   return orq_gdi_mgr()->get_pen(m_pen_resource);
 }
 
