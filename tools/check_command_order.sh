@@ -10,11 +10,12 @@ mkdir -p "$work"
 
 timed() {
   local label=$1; shift
-  local start end
+  local start end log
+  log="$work/$(printf '%s' "$label" | tr -c 'A-Za-z0-9-' '_').log"
   start=$(date +%s)
-  if ! "$@" >"$work/$label.log" 2>&1; then
-    echo "FAILED: $label (log: $work/$label.log)"
-    tail -n 30 "$work/$label.log"
+  if ! "$@" >"$log" 2>&1; then
+    echo "FAILED: $label (log: $log)"
+    tail -n 30 "$log"
     return 1
   fi
   end=$(date +%s)
