@@ -1,22 +1,64 @@
 #include "gen_machine_info.h"
 
-#include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QSet>
 
 #include <atomic>
+#include <cstring>
+#include <string>
 #include <utility>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 std::atomic<GEN_MACHINE_INFO*> g_info{nullptr};
 std::atomic<GEN_PROCESSOR_MGR*> g_mgr{nullptr};
 
-QByteArray read_small_file(const QString& path, bool* ok)
+// Every tool scans the topology twice while it starts, and reads three files
+// per processor each time, so the scan uses plain system calls: a sorted
+// QDir listing that stats every entry, a regular expression compiled on first
+// use and QFile's bookkeeping cost far more than the kernel's answers. The
+// rules stay QDir's and QFile's: directories or links to them, named "cpu"
+// and decimal digits; a file opens when it exists and is not a directory.
+bool is_cpu_name(const char* name)
 {
-  QFile file(path);
-  *ok = file.open(QIODevice::ReadOnly);
-  return *ok ? file.read(256).trimmed() : QByteArray();
+  if (std::strncmp(name, "cpu", 3) != 0 || name[3] == '\0')
+    return false;
+  for (const char* c = name + 3; *c; ++c)
+    if (*c < '0' || *c > '9')
+      return false;
+  return true;
+}
+
+bool is_directory(const std::string& path, unsigned char type)
+{
+  if (type == DT_DIR)
+    return true;
+  if (type != DT_LNK && type != DT_UNKNOWN)
+    return false;
+  struct stat info {};
+  return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+QByteArray read_small_file(const std::string& path, bool* ok)
+{
+  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  struct stat info {};
+  *ok = fd >= 0 && ::fstat(fd, &info) == 0 && !S_ISDIR(info.st_mode);
+  char buffer[256];
+  ssize_t size = 0;
+  while (*ok && size < ssize_t(sizeof buffer)) {
+    const ssize_t got = ::read(fd, buffer + size, sizeof buffer - size);
+    if (got <= 0)
+      break;
+    size += got;
+  }
+  if (fd >= 0)
+    ::close(fd);
+  return *ok ? QByteArray(buffer, int(size)).trimmed() : QByteArray();
 }
 
 struct CPU_SCAN {
@@ -28,29 +70,32 @@ struct CPU_SCAN {
 CPU_SCAN scan(const QString& root)
 {
   CPU_SCAN result;
-  const QDir dir(root);
-  static const QRegularExpression cpu_dir(QStringLiteral("^cpu[0-9]+$"));
-  const QStringList entries = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-  for (const QString& entry : entries) {
-    if (!cpu_dir.match(entry).hasMatch())
+  const std::string root_path = QFile::encodeName(root).toStdString();
+  DIR* dir = ::opendir(root_path.c_str());
+  if (!dir)
+    return result;
+  while (const dirent* entry = ::readdir(dir)) {
+    if (!is_cpu_name(entry->d_name))
       continue;
-    const QString base = dir.filePath(entry);
+    const std::string base = root_path + '/' + entry->d_name;
+    if (!is_directory(base, entry->d_type))
+      continue;
     bool ok = false;
     // cpu0 usually has no "online" file: it cannot be taken offline.
-    const QByteArray online = read_small_file(base + QStringLiteral("/online"), &ok);
+    const QByteArray online = read_small_file(base + "/online", &ok);
     if (ok && online == "0")
       continue;
     ++result.logical;
     bool package_ok = false;
     bool core_ok = false;
-    const int package =
-        read_small_file(base + QStringLiteral("/topology/physical_package_id"), &package_ok).toInt();
-    const int core = read_small_file(base + QStringLiteral("/topology/core_id"), &core_ok).toInt();
+    const int package = read_small_file(base + "/topology/physical_package_id", &package_ok).toInt();
+    const int core = read_small_file(base + "/topology/core_id", &core_ok).toInt();
     if (package_ok && core_ok)
       result.cores.insert(qMakePair(package, core));
     else
       result.topology_complete = false;
   }
+  ::closedir(dir);
   return result;
 }
 }  // namespace

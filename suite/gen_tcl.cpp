@@ -1,14 +1,46 @@
 #include "gen_tcl.h"
 
+#include "gen_internal_error.h"
 #include "gen_message_service.h"
 
 #include <tcl.h>
 
 #include <atomic>
 
+#include <dlfcn.h>
+
 namespace {
 std::atomic<GEN_TCL*> g_service{nullptr};
-std::once_flag g_tcl_init;
+
+// The Tcl library is loaded when the first interpreter is made, not with the
+// suite: mapping it and binding the nine hundred functions of its stubs
+// table cost every tool's start-up, and many sessions never run Tcl. The
+// suite calls Tcl through its stubs table; only the two functions that come
+// before an interpreter are looked up by name. A tool that links Tcl itself
+// gets the same library, already loaded.
+struct TCL_LIBRARY {
+  void (*find_executable)(const char* argv0) = nullptr;
+  Tcl_Interp* (*create_interp)() = nullptr;
+};
+
+const TCL_LIBRARY& tcl_library()
+{
+  static const TCL_LIBRARY library = [] {
+    TCL_LIBRARY entry;
+    void* handle = dlopen(GEN_TCL_LIBRARY_NAME, RTLD_NOW | RTLD_GLOBAL);
+    if (handle) {
+      entry.find_executable = reinterpret_cast<void (*)(const char*)>(dlsym(handle, "Tcl_FindExecutable"));
+      entry.create_interp = reinterpret_cast<Tcl_Interp* (*)()>(dlsym(handle, "Tcl_CreateInterp"));
+    }
+    if (!entry.find_executable || !entry.create_interp)
+      gen_internal_error(QStringLiteral("Cannot load the Tcl library %1: %2")
+                             .arg(QLatin1String(GEN_TCL_LIBRARY_NAME), QString::fromLocal8Bit(dlerror())),
+                         "GEN", __FILE__, __LINE__);
+    entry.find_executable(nullptr);
+    return entry;
+  }();
+  return library;
+}
 }  // namespace
 
 GEN_TCL::GEN_TCL() = default;
@@ -22,8 +54,11 @@ GEN_TCL::~GEN_TCL()
 Tcl_Interp* GEN_TCL::interp()
 {
   if (!m_interp) {
-    std::call_once(g_tcl_init, [] { Tcl_FindExecutable(nullptr); });
-    m_interp = Tcl_CreateInterp();
+    m_interp = tcl_library().create_interp();
+    if (!Tcl_InitStubs(m_interp, TCL_VERSION, 0))
+      gen_internal_error(QStringLiteral("The Tcl library %1 is not Tcl %2")
+                             .arg(QLatin1String(GEN_TCL_LIBRARY_NAME), QLatin1String(TCL_VERSION)),
+                         "GEN", __FILE__, __LINE__);
     // Without init.tcl the core commands still work; only library procedures
     // (auto-loaded packages) are missing, so a tool can go on.
     if (Tcl_Init(m_interp) != TCL_OK)

@@ -53,7 +53,7 @@ QVector<CPU> hyperthreaded(int packages, int cores, int threads)
         cpus.append({p, c, true, true});
   return cpus;
 }
-}  // namespace
+} // namespace
 
 Q_DECLARE_METATYPE(QVector<CPU>)
 
@@ -99,6 +99,28 @@ private slots:
     QVERIFY(info.logical_processor_count() >= 1);
     QVERIFY(info.physical_core_count() <= info.logical_processor_count());
     QCOMPARE(info.logical_processor_count(), QThread::idealThreadCount());
+  }
+
+  void only_processor_directories_and_links_to_them_count()
+  {
+    QTemporaryDir dir;
+    QTemporaryDir elsewhere;
+    write_tree(dir.path(), hyperthreaded(1, 2, 1));
+    write_file(elsewhere.path() + QStringLiteral("/cpu2/topology/physical_package_id"), "0");
+    write_file(elsewhere.path() + QStringLiteral("/cpu2/topology/core_id"), "2");
+    QVERIFY(QFile::link(elsewhere.path() + QStringLiteral("/cpu2"), dir.path() + QStringLiteral("/cpu2")));
+    QVERIFY(QFile::link(elsewhere.path() + QStringLiteral("/gone"), dir.path() + QStringLiteral("/cpu3")));
+    write_file(dir.path() + QStringLiteral("/cpu4"), "not a directory");
+    write_file(dir.path() + QStringLiteral("/cpu5x/topology/core_id"), "5");
+    QDir().mkpath(dir.path() + QStringLiteral("/cpu6/online"));
+    const GEN_MACHINE_INFO info(dir.path());
+    // cpu6's "online" cannot be read as a file, so it counts as online; it
+    // has no topology, which leaves the core count unknown.
+    QCOMPARE(info.logical_processor_count(), 4);
+    QCOMPARE(info.physical_core_count(), 0);
+    QDir(dir.path() + QStringLiteral("/cpu6")).removeRecursively();
+    QCOMPARE(info.logical_processor_count(), 3);
+    QCOMPARE(info.physical_core_count(), 3);
   }
 
   void tcl_evaluates_and_reports_errors()
@@ -156,13 +178,15 @@ private slots:
   {
     GEN_TCL tcl;
     QStringList warnings;
-    const int id = gen_message_service().add_listener([&warnings](const GEN_MESSAGE& m) { warnings << m.text; });
+    const int id =
+        gen_message_service().add_listener([&warnings](const GEN_MESSAGE& m) { warnings << m.text; });
     tcl.post_script(QStringLiteral("no_such_command 1 2"));
     tcl.post_script(QStringLiteral("set ::after 1"));
     QCOMPARE(tcl.flush_queue(), 2);
     gen_message_service().remove_listener(id);
     QCOMPARE(warnings.size(), 1);
-    QVERIFY(warnings.first().startsWith(QStringLiteral("Tcl error in queued command: invalid command name \"no_such_command\"")));
+    QVERIFY(warnings.first().startsWith(
+        QStringLiteral("Tcl error in queued command: invalid command name \"no_such_command\"")));
     QCOMPARE(tcl.get_var(QStringLiteral("after")), QStringLiteral("1"));
   }
 };
