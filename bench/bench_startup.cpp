@@ -5,11 +5,13 @@
 // read by Qt's own SVG engine from the same pictures. Two pairings:
 //   20    a menu and a tool bar of 20 common actions
 //   all   every catalogue action, one menu per first letter of the
-//         enumerator names, icons where the catalogue has one
-// A third bare child shows the whole-catalogue menus without icons, for
-// reference only. Each run is a fresh process; the clock stops when the
-// child reports its first paint. The whole-catalogue children then describe
-// their menus and the descriptions must match.
+//         enumerator names, icons where the catalogue has one, against
+//         the same menus of plain actions without icons
+// A third bare child shows the whole-catalogue menus with the same icons as
+// files, for reference only: Qt reads each such picture as the icon is made,
+// the catalogue when it is first painted. Each run is a fresh process; the
+// clock stops when the child reports its first paint. The whole-catalogue
+// children then describe their menus and the descriptions must match.
 //   bench_startup [runs]
 //   bench_startup --child [all]    one ORQ child, e.g. under a profiler
 #include <orq.h>
@@ -143,8 +145,9 @@ ORQ_ICON_ENUM icon_of(const QAction& action, const QHash<qint64, int>& icon_by_k
 
 // The bare program's lists for the whole catalogue, with every picture the
 // catalogue's actions use copied out of the resources beside them: one list
-// with the icons, and one without them for the reference row. Returns the
-// number of actions with an icon, -1 when a file cannot be written.
+// without icons for the pairing, and one with them for the reference row.
+// Returns the number of actions with an icon, -1 when a file cannot be
+// written.
 int write_menu_lists(const QDir& dir, const QString& list_name, const QString& plain_list_name)
 {
   QHash<qint64, int> icon_by_key;
@@ -238,7 +241,7 @@ int main(int argc, char** argv)
   const QString bare = QFileInfo(self).dir().filePath(QStringLiteral("bench_startup_bare"));
   const int runs = argc > 1 ? std::max(3, std::atoi(argv[1])) : 15;
   const QString all = QString::number(ORQ_ACTION_COUNT);
-  enum { BARE_COMMON, ORQ_COMMON, BARE_ALL, ORQ_ALL, BARE_ALL_PLAIN };
+  enum { BARE_COMMON, ORQ_COMMON, BARE_ALL, ORQ_ALL, BARE_ALL_ICONS };
   CHILD children[] = {
       {QStringLiteral("Bare Qt: QApplication + QMainWindow, 20 actions with SVG icons"), bare, bare_args,
        false},
@@ -246,19 +249,19 @@ int main(int argc, char** argv)
        self,
        {QStringLiteral("--child")},
        false},
-      {QStringLiteral("Bare Qt: QApplication + QMainWindow, %1 actions in the same menus, same SVG icons")
-           .arg(all),
+      {QStringLiteral("Bare Qt: QApplication + QMainWindow, %1 plain actions in the same menus").arg(all),
        bare,
-       {QStringLiteral("--menus"), list_name},
+       {QStringLiteral("--menus"), plain_list_name},
        true},
       {QStringLiteral("ORQ tool: full start-up + ORQ_MAIN_WINDOW, all %1 catalogue actions in menus")
            .arg(all),
        self,
        {QStringLiteral("--child"), QStringLiteral("all")},
        true},
-      {QStringLiteral("Reference only: bare Qt, the same %1 actions and menus without icons").arg(all),
+      {QStringLiteral("Reference only: bare Qt, the same %1 actions and menus with the same SVG icons")
+           .arg(all),
        bare,
-       {QStringLiteral("--menus"), plain_list_name},
+       {QStringLiteral("--menus"), list_name},
        true}};
   // Interleaved, so that a busy moment of the machine hits every child.
   for (int run = 0; run < runs; ++run) {
@@ -271,11 +274,11 @@ int main(int argc, char** argv)
     }
     // The same job on both sides: the same menus, texts and icons.
     const QByteArray& orq_shape = children[ORQ_ALL].shape;
-    if (orq_shape != children[BARE_ALL].shape ||
-        without_icons(orq_shape) != without_icons(children[BARE_ALL_PLAIN].shape)) {
-      std::fprintf(stderr, "bench_startup: the windows differ\n  ORQ:  %s\n  bare: %s\n  plain: %s\n",
+    if (orq_shape != children[BARE_ALL_ICONS].shape ||
+        without_icons(orq_shape) != without_icons(children[BARE_ALL].shape)) {
+      std::fprintf(stderr, "bench_startup: the windows differ\n  ORQ:  %s\n  plain: %s\n  icons: %s\n",
                    orq_shape.constData(), children[BARE_ALL].shape.constData(),
-                   children[BARE_ALL_PLAIN].shape.constData());
+                   children[BARE_ALL_ICONS].shape.constData());
       return 1;
     }
   }
@@ -291,14 +294,14 @@ int main(int argc, char** argv)
               common_ratio);
   std::printf("| %s | %.1f ms | |\n", qPrintable(children[BARE_ALL].name), ms[BARE_ALL]);
   std::printf("| %s | %.1f ms | %.2f |\n", qPrintable(children[ORQ_ALL].name), ms[ORQ_ALL], all_ratio);
-  std::printf("| %s | %.1f ms | (%.2f) |\n", qPrintable(children[BARE_ALL_PLAIN].name), ms[BARE_ALL_PLAIN],
-              ms[ORQ_ALL] / ms[BARE_ALL_PLAIN]);
+  std::printf("| %s | %.1f ms | (%.2f) |\n", qPrintable(children[BARE_ALL_ICONS].name), ms[BARE_ALL_ICONS],
+              ms[ORQ_ALL] / ms[BARE_ALL_ICONS]);
   // Plain Qt's SVG engine reads every file as the icon is made; the catalogue
-  // reads a picture only when it is first painted. The reference row shows
-  // what is left without that difference. What one catalogue action costs
-  // inside a running process is bench_catalog's subject.
+  // reads a picture only when it is first painted, so the pairing that counts
+  // is against plain actions. What one catalogue action costs inside a
+  // running process is bench_catalog's subject.
   std::printf("\nBare Qt's SVG icons: %d in the menus, %.1f us each to make\n", icons,
-              (ms[BARE_ALL] - ms[BARE_ALL_PLAIN]) * 1000 / icons);
+              (ms[BARE_ALL_ICONS] - ms[BARE_ALL]) * 1000 / icons);
   const bool met = common_ratio <= 1.2 && all_ratio <= 1.2;
   std::printf("Target: both ORQ / bare ratios at most 1.20: %s\n", met ? "met" : "MISSED");
   return 0;

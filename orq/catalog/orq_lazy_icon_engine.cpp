@@ -2,8 +2,16 @@
 
 #include <QPainter>
 
+#include <utility>
+
+ORQ_LAZY_ICON_ENGINE::ORQ_LAZY_ICON_ENGINE(std::function<QIcon()> make)
+    : m_make(std::move(make))
+{
+}
+
 ORQ_LAZY_ICON_ENGINE::ORQ_LAZY_ICON_ENGINE(const ORQ_LAZY_ICON_ENGINE& other)
     : QIconEngine(other)
+    , m_make(other.m_make)
     , m_files(other.m_files)
     , m_icon(other.m_icon ? std::make_unique<QIcon>(*other.m_icon) : nullptr)
 {
@@ -27,7 +35,7 @@ QIcon& ORQ_LAZY_ICON_ENGINE::loaded() const
   if (!m_icon) {
     // QIcon::addFile on an icon without an engine picks the engine by file
     // suffix: the SVG engine for ".svg", the pixmap engine otherwise.
-    m_icon = std::make_unique<QIcon>();
+    m_icon = std::make_unique<QIcon>(m_make ? m_make() : QIcon());
     for (const FILE_ENTRY& file : m_files)
       m_icon->addFile(file.name, file.size, file.mode, file.state);
   }

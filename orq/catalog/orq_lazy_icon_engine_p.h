@@ -1,16 +1,20 @@
 #pragma once
-// An icon engine that only remembers its files until the icon is first
-// drawn or measured. Qt's SVG engine parses a file as soon as it is added,
-// which would make the whole catalogue cost most of a second at start-up.
+// An icon engine that only remembers its files (or how to make the icon)
+// until the icon is first drawn or measured. Qt's SVG engine parses a file as
+// soon as it is added, which would make the whole catalogue cost most of a
+// second at start-up.
 #include <QIcon>
 #include <QIconEngine>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 
 class ORQ_LAZY_ICON_ENGINE : public QIconEngine {
 public:
   ORQ_LAZY_ICON_ENGINE() = default;
+  // The icon is make() on first use, with any files added since on top.
+  explicit ORQ_LAZY_ICON_ENGINE(std::function<QIcon()> make);
   ORQ_LAZY_ICON_ENGINE(const ORQ_LAZY_ICON_ENGINE& other);
 
   void addFile(const QString& file_name, const QSize& size, QIcon::Mode mode, QIcon::State state) override;
@@ -35,6 +39,7 @@ private:
   };
   QIcon& loaded() const;
 
+  std::function<QIcon()> m_make;
   QVector<FILE_ENTRY> m_files;
   mutable std::unique_ptr<QIcon> m_icon; // the real icon, made on first use
 };

@@ -1,7 +1,8 @@
 #pragma once
 // The application style of every tool: the platform style with dock
 // separators drawn as splitter handles and dialog buttons laid out the
-// suite's way, without icons.
+// suite's way, without icons. The pictures of tool bar extension buttons are
+// read when first drawn rather than when a tool bar is made.
 #include "orq_export.h"
 
 #include <QProxyStyle>
@@ -16,4 +17,6 @@ public:
                      const QWidget* widget = nullptr) const override;
   int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                 QStyleHintReturn* hint_return = nullptr) const override;
+  QIcon standardIcon(StandardPixmap standard_icon, const QStyleOption* option = nullptr,
+                     const QWidget* widget = nullptr) const override;
 };

@@ -19,6 +19,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include <memory>
 #include <thread>
 
 namespace {
@@ -303,6 +304,57 @@ private slots:
     const QImage other = render([&](QPainter& p) { style.drawControl(QStyle::CE_Splitter, &wrong, &p); });
     QVERIFY2(expected != other, "the two orientations must look different for this test to mean anything");
     QCOMPARE(ours, expected);
+  }
+
+  void tool_bar_extension_icons_are_the_base_styles_data()
+  {
+    QTest::addColumn<int>("standard_icon");
+    QTest::addColumn<bool>("with_option");
+    QTest::addColumn<Qt::LayoutDirection>("made_in");
+    QTest::addColumn<Qt::LayoutDirection>("used_in");
+    const int horizontal = QStyle::SP_ToolBarHorizontalExtensionButton;
+    const int vertical = QStyle::SP_ToolBarVerticalExtensionButton;
+    QTest::newRow("horizontal, option") << horizontal << true << Qt::LeftToRight << Qt::LeftToRight;
+    QTest::newRow("horizontal, right-to-left option")
+        << horizontal << true << Qt::RightToLeft << Qt::LeftToRight;
+    QTest::newRow("horizontal, no option") << horizontal << false << Qt::LeftToRight << Qt::LeftToRight;
+    QTest::newRow("horizontal, no option, right-to-left")
+        << horizontal << false << Qt::RightToLeft << Qt::RightToLeft;
+    QTest::newRow("horizontal, direction turned before use")
+        << horizontal << false << Qt::RightToLeft << Qt::LeftToRight;
+    QTest::newRow("vertical, option") << vertical << true << Qt::LeftToRight << Qt::LeftToRight;
+    QTest::newRow("vertical, no option") << vertical << false << Qt::LeftToRight << Qt::RightToLeft;
+  }
+
+  // Extension icons are made on first use; they must still be exactly the
+  // pictures the base style gives at the moment the tool bar asked.
+  void tool_bar_extension_icons_are_the_base_styles()
+  {
+    QFETCH(int, standard_icon);
+    QFETCH(bool, with_option);
+    QFETCH(Qt::LayoutDirection, made_in);
+    QFETCH(Qt::LayoutDirection, used_in);
+    const auto pixmap = QStyle::StandardPixmap(standard_icon);
+    ORQ_PROXY_STYLE style(QStyleFactory::create(QStringLiteral("Fusion")));
+    const std::unique_ptr<QStyle> base(QStyleFactory::create(QStringLiteral("Fusion")));
+    QStyleOption option;
+    option.direction = made_in;
+    const Qt::LayoutDirection before = QGuiApplication::layoutDirection();
+    QGuiApplication::setLayoutDirection(made_in);
+    const QIcon ours = style.standardIcon(pixmap, with_option ? &option : nullptr);
+    const QIcon expected = base->standardIcon(pixmap, with_option ? &option : nullptr);
+    QGuiApplication::setLayoutDirection(used_in);
+    const QList<QSize> sizes = ours.availableSizes();
+    const QImage wrong = base->standardIcon(pixmap, nullptr).pixmap(16).toImage();
+    QGuiApplication::setLayoutDirection(before);
+    QVERIFY(!ours.isNull());
+    QCOMPARE(sizes, expected.availableSizes());
+    QVERIFY(!sizes.isEmpty());
+    for (const int size : {8, 16, 32})
+      QCOMPARE(ours.pixmap(size).toImage(), expected.pixmap(size).toImage());
+    if (pixmap == QStyle::SP_ToolBarHorizontalExtensionButton && made_in != used_in)
+      QVERIFY2(wrong != expected.pixmap(16).toImage(),
+               "the two directions must differ for this row to mean anything");
   }
 
   void f1_asks_the_help_service_for_the_topic_data()
