@@ -14,6 +14,8 @@
 #include "orq_dock_widget_button.h"
 #include "orq_dock_widget_button_bar.h"
 #include "orq_dock_widget_titlebar_widget.h"
+#include "orq_drag_tracker.h"
+#include "orq_drag_tracker_callback.h"
 #include "orq_font.h"
 #include "orq_fonts.h"
 #include "orq_gdi_manager.h"

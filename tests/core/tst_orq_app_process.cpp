@@ -245,6 +245,14 @@ private slots:
         << "illegal-action"
         << QStringList{QStringLiteral("Internal error in module ORQ (orq_actions.cpp:"),
                        QStringLiteral("):\nThe calling function has passed an illegal ORQ_ACTION_ENUM")};
+    QTest::newRow("drag without a callback")
+        << "drag-no-callback"
+        << QStringList{QStringLiteral("Internal error in module ORQ (orq_drag_tracker.cpp:"),
+                       QStringLiteral("):\nm_callback != NULL")};
+    QTest::newRow("rubber band with a slanted fixed edge")
+        << "drag-fixed-points"
+        << QStringList{QStringLiteral("Internal error in module ORQ (orq_drag_tracker_callback.cpp:"),
+                       QStringLiteral("):\nIncorrect fixed points")};
     QTest::newRow("fatal Qt message")
         << "qt-fatal"
         << QStringList{QStringLiteral("Internal error in module ORQ (orq_message_handler.cpp:"),

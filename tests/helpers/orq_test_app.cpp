@@ -11,6 +11,8 @@
 //   orq_test_app theme-before-app   a theme colour asked for before the application exists
 //   orq_test_app theme-after-app    a theme colour asked for after the application ended
 //   orq_test_app tool-bar-icons     the tool-bar icon size chosen for the screen, and what was stored
+//   orq_test_app drag-no-callback   a drag whose callback is missing when the mouse moves
+//   orq_test_app drag-fixed-points  a rubber band whose fixed points share neither x nor y
 //   orq_test_app theme-paint        what theme pens and brushes paint in a fresh process whose
 //                                   palette highlight is green, then after it turns red
 #include <orq.h>
@@ -24,11 +26,13 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -86,6 +90,22 @@ int run(ORQ_APP& app, const QStringList& args)
   if (mode == QLatin1String("require")) {
     const void* m_view = nullptr;
     GEN_REQUIRE("ORQ", m_view != NULL);
+    return 0;
+  }
+  if (mode == QLatin1String("drag-no-callback")) {
+    QWidget widget;
+    widget.resize(100, 100);
+    QTimer::singleShot(0, &widget, [&widget] {
+      QMouseEvent move(QEvent::MouseMove, QPointF(20, 20), widget.mapToGlobal(QPoint(20, 20)), Qt::NoButton,
+                       Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(&widget, &move);
+    });
+    ORQ_DRAG_TRACKER::track(&widget, QPoint(10, 10), nullptr, 0.0);
+    return 0;
+  }
+  if (mode == QLatin1String("drag-fixed-points")) {
+    QWidget widget;
+    ORQ_DRAG_TRACKER::track_rect(&widget, QPoint(5, 5), QPoint(10, 10), QPoint(20, 30), nullptr, 0.0);
     return 0;
   }
   if (mode == QLatin1String("illegal-action")) {
