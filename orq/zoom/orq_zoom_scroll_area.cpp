@@ -351,7 +351,7 @@ void ORQ_ZOOM_SCROLL_AREA::set_zoom(float factor)
     ORQ_REQUIRE(rect.isEmpty() == false);                                                          \
   } while (false)
 
-void ORQ_ZOOM_SCROLL_AREA::zoom_into_physical(const QRect& logical, const QSize& size, bool centre_by_page_step)
+void ORQ_ZOOM_SCROLL_AREA::zoom_into_logical(const QRect& logical, const QSize& size, bool centre_by_page_step)
 {
   const float fx = float(size.width() + 1) / float(logical.width());
   const float fy = float(size.height() + 1) / float(logical.height());
@@ -373,7 +373,7 @@ void ORQ_ZOOM_SCROLL_AREA::zoom_into_physical(const QRect& logical, const QSize&
 void ORQ_ZOOM_SCROLL_AREA::zoom_rect(const QRect& rect)
 {
   ORQ_REQUIRE_ZOOM_RECT(rect);
-  zoom_into_physical(m_view->get_logical(rect), maximumViewportSize(), true);
+  zoom_into_logical(m_view->get_logical(rect), maximumViewportSize(), true);
 }
 
 void ORQ_ZOOM_SCROLL_AREA::zoom_on_logical_rect(const QRect& rect)
@@ -385,7 +385,7 @@ void ORQ_ZOOM_SCROLL_AREA::zoom_on_logical_rect(const QRect& rect)
   if (horizontalScrollBar()->isVisible())
     max_size.rheight() -= horizontalScrollBar()->height();
   ORQ_REQUIRE(max_size.width() > 0 && max_size.height() > 0);
-  zoom_into_physical(rect, max_size, false);
+  zoom_into_logical(rect, max_size, false);
 }
 
 void ORQ_ZOOM_SCROLL_AREA::scroll_to_logical_rect(const QRect& rect)
@@ -669,13 +669,14 @@ bool ORQ_ZOOM_SCROLL_AREA::eventFilter(QObject* watched, QEvent* event)
     if (type == QEvent::DragMove && m_ensure_visible) {
       const QPoint pos = static_cast<QDragMoveEvent*>(event)->pos();
       ensureVisible(pos.x(), pos.y(), 50, 50);
-    } else if (type == QEvent::Paint) {
-      if (m_birds_eye_view)
-        m_birds_eye_view->update_view_rect();
-      return QScrollArea::eventFilter(watched, event);
+    } else if (type == QEvent::Paint && m_birds_eye_view) {
+      m_birds_eye_view->update_view_rect();
     }
   }
-  return remaining_event_filter(event);
+  if (remaining_event_filter(event))
+    return true;
+  // The base class follows the view's resizes to set the scroll bars' ranges.
+  return QScrollArea::eventFilter(watched, event);
 }
 
 // ---- wheel and keys ------------------------------------------------------

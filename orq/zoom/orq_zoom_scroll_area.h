@@ -109,7 +109,7 @@ private:
   bool magnifying_mode_event_filter(QEvent* event);
   bool remaining_event_filter(QEvent* event);
   void set_view_cursor(const QCursor& cursor);
-  void zoom_into_physical(const QRect& rect, const QSize& size, bool centre_by_page_step);
+  void zoom_into_logical(const QRect& logical, const QSize& size, bool centre_by_page_step);
   void emit_zoom_changed();
   QList<QAction*> all_actions() const;
 
