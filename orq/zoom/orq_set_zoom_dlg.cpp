@@ -8,6 +8,8 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace {
 QString percent_text(float value)
 {
@@ -43,11 +45,14 @@ ORQ_SET_ZOOM_DLG::ORQ_SET_ZOOM_DLG(float min, float max, QWidget* parent, Qt::Wi
   m_combo_box->setEditable(true);
   m_combo_box->setInsertPolicy(QComboBox::InsertAlphabetically);
   m_combo_box->setDuplicatesEnabled(false);
+  // A view whose drawing is too large for the size cap has no finite
+  // maximum, and a tiny minimum over a large scaling arrives as 0: halving
+  // and doubling must stop where the float does, or the list never ends.
   QStringList items;
-  for (float value = 50.0f; value >= min; value /= 2.0f)
+  for (float value = 50.0f; value >= min && value > 0.0f; value /= 2.0f)
     items.prepend(percent_text(value));
   items.append(QStringLiteral("100.0%"));
-  for (float value = 200.0f; value <= max; value *= 2.0f)
+  for (float value = 200.0f; value <= max && std::isfinite(value); value *= 2.0f)
     items.append(percent_text(value));
   m_combo_box->addItems(items);
   m_combo_box->addItem(QIcon(), fit_in_window_text(), QVariant());
