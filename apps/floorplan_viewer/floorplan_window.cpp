@@ -1,8 +1,9 @@
 #include "floorplan_window.h"
 
-#include "floorplan_widget.h"
+#include "floorplan_view.h"
 
 #include <orq.h>
+#include <orq_zoom_scroll_area.h>
 
 #include <gen_help.h>
 #include <gen_machine_info.h>
@@ -12,24 +13,32 @@
 #include <gen_undo_redo_mgr.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMdiSubWindow>
-#include <QMouseEvent>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QUndoCommand>
 #include <QVBoxLayout>
 
 #include <tcl.h>
+
+#include <memory>
 
 namespace {
 const QString k_settings_key = QStringLiteral("FloorplanViewer");
@@ -72,33 +81,46 @@ private:
 };
 } // namespace
 
-FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows, bool restore_layout)
+FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int shape_count, int hierarchy_rows,
+                                   bool restore_layout)
     : m_mdi(new ORQ_MDI_AREA(this))
-    , m_view(new FLOORPLAN_WIDGET)
+    , m_zoom_area(new ORQ_ZOOM_SCROLL_AREA)
+    , m_view(new FLOORPLAN_VIEW(std::make_unique<FLOORPLAN_DATA>(seed, block_count, shape_count)))
+    , m_block_list(new QPlainTextEdit)
     , m_hover(new QLabel(this))
+    , m_selection_label(new QLabel(this))
+    , m_zoom_label(new QLabel(this))
     , m_seed(seed)
     , m_block_count(block_count)
+    , m_shape_count(shape_count)
 {
   setObjectName(QStringLiteral("floorplan_viewer"));
   setWindowTitle(QStringLiteral("Floor Plan Viewer"));
   m_mdi->setObjectName(QStringLiteral("documents"));
   setCentralWidget(m_mdi);
-  m_view->set_floorplan(make_floorplan(m_seed, m_block_count));
+  m_view->setObjectName(QStringLiteral("floorplan_view"));
+  m_zoom_area->setObjectName(QStringLiteral("floorplan_area"));
+  m_zoom_area->setFrameShape(QFrame::NoFrame);
+  m_zoom_area->set_view(m_view, true);
   // Two documents, so the area has tabs to show: the plan and its blocks.
-  auto* blocks = new QPlainTextEdit;
-  blocks->setObjectName(QStringLiteral("block_list"));
-  blocks->setReadOnly(true);
-  for (const FLOORPLAN_BLOCK& block : make_floorplan(m_seed, m_block_count).blocks)
-    blocks->appendPlainText(QStringLiteral("%1\t%2").arg(block.name, block.cell));
-  m_mdi->addSubWindow(blocks)->setWindowTitle(QStringLiteral("Blocks"));
-  QMdiSubWindow* plan = m_mdi->addSubWindow(m_view);
+  m_block_list->setObjectName(QStringLiteral("block_list"));
+  m_block_list->setReadOnly(true);
+  fill_block_list();
+  m_mdi->addSubWindow(m_block_list)->setWindowTitle(QStringLiteral("Blocks"));
+  QMdiSubWindow* plan = m_mdi->addSubWindow(m_zoom_area);
   plan->setWindowTitle(QStringLiteral("Floor Plan"));
   plan->setObjectName(QStringLiteral("floorplan_document"));
   // The plan is the tool itself: its tab refuses to close (the commands
   // draw from it); the block list closes for good.
   plan->installEventFilter(this);
+  m_zoom_area->installEventFilter(this);
 
   statusBar()->addWidget(m_hover, 1);
+  m_selection_label->setObjectName(QStringLiteral("selection_status"));
+  m_selection_label->setText(m_view->selection_text());
+  statusBar()->addPermanentWidget(m_selection_label);
+  m_zoom_label->setObjectName(QStringLiteral("zoom_status"));
+  statusBar()->addPermanentWidget(m_zoom_label);
   QString tcl_version;
   gen_tcl().eval(QStringLiteral("info patchlevel"), &tcl_version);
   statusBar()->addPermanentWidget(new QLabel(QStringLiteral("Cores %1 | logical %2 | Tcl %3")
@@ -112,6 +134,14 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy
   register_tcl_commands();
   orq_safe_connect(m_view, SIGNAL(block_hovered(QString)), m_hover, SLOT(setText(QString)),
                    Qt::AutoConnection, __FILE__, __LINE__);
+  connect(m_view, &FLOORPLAN_VIEW::selection_changed, m_selection_label, &QLabel::setText);
+  auto show_zoom = [this](float zoom) {
+    m_zoom_label->setText(QStringLiteral("Zoom %1%").arg(double(zoom) * 100.0, 0, 'f', 1));
+    if (!m_fitting)
+      m_keep_fitted = false;
+  };
+  connect(m_zoom_area, &ORQ_ZOOM_SCROLL_AREA::zoom_level_changed, this, show_zoom);
+  m_zoom_label->setText(QStringLiteral("Zoom %1%").arg(double(m_view->get_zoom()) * 100.0, 0, 'f', 1));
   resize(1280, 800);
   m_default_layout = saveState(k_layout_version);
   restore_geometry();
@@ -119,6 +149,22 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy
     restore_panel_layout();
   m_mdi->setActiveSubWindow(plan);
   qApp->installEventFilter(this);
+}
+
+void FLOORPLAN_WINDOW::fill_block_list()
+{
+  m_block_list->clear();
+  for (const FLOORPLAN_BLOCK& block : m_view->floorplan().blocks)
+    m_block_list->appendPlainText(QStringLiteral("%1\t%2").arg(block.name, block.cell));
+}
+
+void FLOORPLAN_WINDOW::fit_while_untouched()
+{
+  if (!m_keep_fitted || m_zoom_area->maximumViewportSize().isEmpty())
+    return;
+  m_fitting = true;
+  m_zoom_area->zoom_fit();
+  m_fitting = false;
 }
 
 void FLOORPLAN_WINDOW::create_panels(int hierarchy_rows)
@@ -190,6 +236,71 @@ unsigned FLOORPLAN_WINDOW::seed() const
 QString FLOORPLAN_WINDOW::status_text() const
 {
   return m_hover->text();
+}
+
+QString FLOORPLAN_WINDOW::selection_status() const
+{
+  return m_selection_label->text();
+}
+
+QString FLOORPLAN_WINDOW::zoom_status() const
+{
+  return m_zoom_label->text();
+}
+
+FLOORPLAN_VIEW* FLOORPLAN_WINDOW::view() const
+{
+  return m_view;
+}
+
+ORQ_ZOOM_SCROLL_AREA* FLOORPLAN_WINDOW::zoom_area() const
+{
+  return m_zoom_area;
+}
+
+bool FLOORPLAN_WINDOW::export_pdf(const QString& file_name)
+{
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(file_name);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  printer.setDocName(QStringLiteral("Floor plan, seed %1").arg(m_seed));
+  return m_view->print(&printer) && QFileInfo(file_name).size() > 0;
+}
+
+void FLOORPLAN_WINDOW::print()
+{
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() == QDialog::Accepted && !m_view->print(&printer))
+    orq_message_box(QStringLiteral("Cannot print to %1").arg(printer.printerName()), GEN_PROMPT_TYPE::ERROR,
+                    this);
+}
+
+void FLOORPLAN_WINDOW::print_preview()
+{
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintPreviewDialog preview(&printer, this);
+  connect(&preview, &QPrintPreviewDialog::paintRequested, m_view, &FLOORPLAN_VIEW::print);
+  preview.exec();
+}
+
+void FLOORPLAN_WINDOW::export_pdf_dialog()
+{
+  const QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Export PDF"), QString(),
+                                                    QStringLiteral("PDF files (*.pdf)"));
+  if (!name.isEmpty() && !export_pdf(name))
+    orq_message_box(QStringLiteral("Cannot write %1").arg(name), GEN_PROMPT_TYPE::ERROR, this);
+}
+
+void FLOORPLAN_WINDOW::flash_selection()
+{
+  const QRect selected = m_view->get_selected_rect();
+  if (!selected.isNull())
+    m_view->animate_selection_rect(m_view->get_physical(selected),
+                                   ORQ_COLOR(ORQ_WINDOW_HIGHLIGHT_COLOR).get_color(), 600);
 }
 
 QWidget* FLOORPLAN_WINDOW::hierarchy_panel() const
@@ -269,7 +380,8 @@ QImage FLOORPLAN_WINDOW::grab_with_floating_panels()
 void FLOORPLAN_WINDOW::set_seed(unsigned seed)
 {
   m_seed = seed;
-  m_view->set_floorplan(make_floorplan(m_seed, m_block_count));
+  m_view->set_data(std::make_unique<FLOORPLAN_DATA>(m_seed, m_block_count, m_shape_count));
+  fill_block_list();
 }
 
 void FLOORPLAN_WINDOW::regenerate()
@@ -318,9 +430,21 @@ void FLOORPLAN_WINDOW::build_menus()
   connect(export_image, &QAction::triggered, this, [this] {
     const QString name = QFileDialog::getSaveFileName(this, QStringLiteral("Export Image"), QString(),
                                                       QStringLiteral("PNG images (*.png)"));
-    if (!name.isEmpty() && !m_view->grab().save(name, "PNG"))
+    // What the user sees, not the whole zoomed view, which may be huge.
+    if (!name.isEmpty() && !m_zoom_area->viewport()->grab().save(name, "PNG"))
       orq_message_box(QStringLiteral("Cannot write %1").arg(name), GEN_PROMPT_TYPE::ERROR, this);
   });
+  // No catalogue entry exports a PDF: a plain action, named like the others.
+  auto* export_pdf = new QAction(QStringLiteral("Export P&DF..."), this);
+  export_pdf->setObjectName(QStringLiteral("FPV_EXPORT_PDF_ACTION"));
+  export_pdf->setStatusTip(QStringLiteral("Writes the whole floor plan to a PDF file"));
+  file->addAction(export_pdf);
+  connect(export_pdf, &QAction::triggered, this, &FLOORPLAN_WINDOW::export_pdf_dialog);
+  file->addSeparator();
+  QAction* print_action = add_standard_action(file, ORQ_PRINT_ACTION);
+  connect(print_action, &QAction::triggered, this, &FLOORPLAN_WINDOW::print);
+  connect(add_standard_action(file, ORQ_PRINT_PREVIEW_ACTION), &QAction::triggered, this,
+          &FLOORPLAN_WINDOW::print_preview);
   file->addSeparator();
   connect(add_standard_action(file, ORQ_EXIT_ACTION), &QAction::triggered, this, &QWidget::close);
 
@@ -347,7 +471,7 @@ void FLOORPLAN_WINDOW::build_menus()
   QAction* copy = add_standard_action(edit, ORQ_COPY_ACTION);
   copy->setStatusTip(QStringLiteral("Copies a picture of the floor plan to the Clipboard"));
   connect(copy, &QAction::triggered, this,
-          [this] { QGuiApplication::clipboard()->setImage(m_view->grab().toImage()); });
+          [this] { QGuiApplication::clipboard()->setImage(m_zoom_area->viewport()->grab().toImage()); });
 
   QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
   QAction* regenerate = add_standard_action(view, ORQ_REGENERATE_FLOORPLAN_ACTION);
@@ -359,9 +483,11 @@ void FLOORPLAN_WINDOW::build_menus()
     toggle->setCheckable(true);
     toggle->setChecked(true);
     connect(toggle, &QAction::toggled, m_view,
-            id == ORQ_SHOW_PADS_ACTION ? &FLOORPLAN_WIDGET::set_show_pads
-                                       : &FLOORPLAN_WIDGET::set_show_block_names);
+            id == ORQ_SHOW_PADS_ACTION ? &FLOORPLAN_VIEW::set_show_pads
+                                       : &FLOORPLAN_VIEW::set_show_block_names);
   }
+  view->addSeparator();
+  build_zoom_actions(view);
 
   view->addSeparator();
   const struct {
@@ -421,6 +547,38 @@ void FLOORPLAN_WINDOW::build_menus()
   bar->addSeparator();
   bar->addAction(options);
   bar->addAction(topics);
+  bar->addSeparator();
+  m_zoom_area->add_mode_actions(bar);
+  bar->addSeparator();
+  bar->addAction(m_zoom_area->get_zoom_fit_action());
+  bar->addAction(m_zoom_area->get_zoom_selection_action());
+  bar->addAction(m_zoom_area->get_zoom_in_action());
+  bar->addAction(m_zoom_area->get_zoom_out_action());
+  bar->addSeparator();
+  bar->addAction(print_action);
+}
+
+void FLOORPLAN_WINDOW::build_zoom_actions(QMenu* view_menu)
+{
+  // The three tools are exclusive, and none checked is the plan's own
+  // selection mode: a group that lets the checked one be unchecked.
+  auto* modes = new QActionGroup(this);
+  modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+  m_zoom_area->insert_modes(modes);
+  view_menu->addAction(m_zoom_area->get_zoom_tool_action());
+  view_menu->addAction(m_zoom_area->get_magnifying_action());
+  view_menu->addAction(m_zoom_area->get_pan_tool_action());
+  view_menu->addSeparator();
+  view_menu->addAction(m_zoom_area->get_zoom_fit_action());
+  view_menu->addAction(m_zoom_area->get_zoom_selection_action());
+  view_menu->addAction(m_zoom_area->get_zoom_in_action());
+  view_menu->addAction(m_zoom_area->get_zoom_out_action());
+  view_menu->addAction(m_zoom_area->get_set_zoom_action());
+  view_menu->addAction(m_zoom_area->get_birds_eye_view_action());
+  // The area zooms on the action itself; the flash follows, once the view
+  // has its new zoom.
+  connect(m_zoom_area->get_zoom_selection_action(), &QAction::triggered, this,
+          &FLOORPLAN_WINDOW::flash_selection);
 }
 
 ORQ_DIALOG* FLOORPLAN_WINDOW::make_options_dialog()
@@ -546,6 +704,9 @@ void FLOORPLAN_WINDOW::reset_layout()
 
 bool FLOORPLAN_WINDOW::eventFilter(QObject* watched, QEvent* event)
 {
+  // The area's new size is known once its own handling is done.
+  if (watched == m_zoom_area && event->type() == QEvent::Resize && m_keep_fitted)
+    QTimer::singleShot(0, this, &FLOORPLAN_WINDOW::fit_while_untouched);
   if (event->type() == QEvent::Close && watched->objectName() == QLatin1String("floorplan_document")) {
     event->ignore();
     return true;

@@ -6,26 +6,37 @@
 
 #include <QList>
 
-class FLOORPLAN_WIDGET;
+class FLOORPLAN_VIEW;
 class ORQ_DIALOG;
 class ORQ_DOCK_WIDGET;
 class ORQ_MDI_AREA;
+class ORQ_ZOOM_SCROLL_AREA;
 class QAction;
 class QLabel;
 class QMenu;
+class QPlainTextEdit;
 
 class FLOORPLAN_WINDOW : public ORQ_MAIN_WINDOW {
   Q_OBJECT
 public:
-  // hierarchy_rows 0 leaves the design-hierarchy panel out. The panels come
-  // from the viewer's panel library; restore_layout false starts from the
-  // default arrangement whatever was saved.
-  FLOORPLAN_WINDOW(unsigned seed, int block_count, int hierarchy_rows = 0, bool restore_layout = true);
+  // shape_count is the size of the generated design. hierarchy_rows 0
+  // leaves the design-hierarchy panel out. The panels come from the
+  // viewer's panel library; restore_layout false starts from the default
+  // arrangement whatever was saved.
+  FLOORPLAN_WINDOW(unsigned seed, int block_count, int shape_count, int hierarchy_rows = 0,
+                   bool restore_layout = true);
   ~FLOORPLAN_WINDOW() override;
 
   unsigned seed() const;
   // What the left of the status bar says.
   QString status_text() const;
+  // What the status bar says is selected, and its zoom.
+  QString selection_status() const;
+  QString zoom_status() const;
+  FLOORPLAN_VIEW* view() const;
+  ORQ_ZOOM_SCROLL_AREA* zoom_area() const;
+  // Writes the whole drawing to a PDF file; false when it cannot.
+  bool export_pdf(const QString& file_name);
   // The hierarchy panel of the panel library, or null.
   QWidget* hierarchy_panel() const;
   // The panels by object name or title, or null.
@@ -40,6 +51,10 @@ public:
 
 public slots:
   void regenerate();
+  // File > Print..., Print Preview... and Export PDF..., with their dialogs.
+  void print();
+  void print_preview();
+  void export_pdf_dialog();
   // View > Reset Layout: panels docked, pinned and open where they started.
   void reset_layout();
   // Tools > Options: the theme colours and fonts. Returns the dialog result.
@@ -63,13 +78,28 @@ private:
   void fall_back_to_default_layout(const QString& why);
   QAction* add_panel_action(QMenu* menu, ORQ_ACTION_ENUM id, ORQ_DOCK_WIDGET* dock);
 
+  void build_zoom_actions(QMenu* view_menu);
+  void fill_block_list();
+  void fit_while_untouched();
+  // After View > Zoom Selection: the selection flashes where it now is.
+  void flash_selection();
+
   ORQ_MDI_AREA* m_mdi;
-  FLOORPLAN_WIDGET* m_view;
+  ORQ_ZOOM_SCROLL_AREA* m_zoom_area;
+  FLOORPLAN_VIEW* m_view;
+  QPlainTextEdit* m_block_list;
   QWidget* m_hierarchy = nullptr;
   QList<ORQ_DOCK_WIDGET*> m_panels;
   QByteArray m_default_layout;
   QLabel* m_hover;
+  QLabel* m_selection_label;
+  QLabel* m_zoom_label;
   QList<QAction*> m_undo_redo;
   unsigned m_seed;
   int m_block_count;
+  int m_shape_count;
+  // Until the user zooms, the plan is fitted to the area whenever its size
+  // settles (start-up, first layout, window resizes).
+  bool m_keep_fitted = true;
+  bool m_fitting = false;
 };

@@ -1,16 +1,19 @@
 // The floor-plan viewer: the sample tool of the framework. Run it with
 // --screenshot FILE to render the main window to a PNG and exit, or with
 // --icons FILE to render a sheet of every icon of the catalogue.
+#include "floorplan_view.h"
 #include "floorplan_window.h"
 #include "icon_sheet.h"
 
 #include <orq.h>
+#include <orq_zoom_scroll_area.h>
 
 #include <QAction>
 #include <QCommandLineParser>
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 int main(int argc, char** argv)
 {
@@ -32,6 +35,29 @@ int main(int argc, char** argv)
                                 QStringLiteral("n"), QStringLiteral("7"));
   const QCommandLineOption blocks(QStringLiteral("blocks"), QStringLiteral("Number of blocks (1-24)."),
                                   QStringLiteral("n"), QStringLiteral("18"));
+  const QCommandLineOption shapes(
+      QStringLiteral("shapes"),
+      QStringLiteral("Number of shapes of the generated chip: pads, power, blocks, rows, "
+                     "cells and nets (1000-20000000)."),
+      QStringLiteral("n"), QStringLiteral("1000000"));
+  const QCommandLineOption export_pdf(QStringLiteral("export-pdf"),
+                                      QStringLiteral("Write the whole floor plan to a PDF file, then go on."),
+                                      QStringLiteral("file"));
+  const QCommandLineOption zoom(
+      QStringLiteral("zoom"),
+      QStringLiteral("Zoom about the centre after start, as the user sees it (1: one pixel "
+                     "a micrometre; 100: a hundred)."),
+      QStringLiteral("factor"));
+  const QCommandLineOption select_rect(
+      QStringLiteral("select-rect"),
+      QStringLiteral("Select what lies inside a logical rectangle (nanometres) "
+                     "before the screenshot."),
+      QStringLiteral("x,y,w,h"));
+  const QCommandLineOption rubber_band(
+      QStringLiteral("rubber-band"),
+      QStringLiteral("Show the drag tracker's rubber band from one point of the visible floor plan to "
+                     "another (pixels from its top-left) in the screenshot."),
+      QStringLiteral("x1,y1,x2,y2"));
   const QCommandLineOption options_shot(QStringLiteral("options-screenshot"),
                                         QStringLiteral("Render the Options dialog to a PNG file and exit."),
                                         QStringLiteral("file"));
@@ -62,8 +88,8 @@ int main(int argc, char** argv)
   const QCommandLineOption default_layout(QStringLiteral("default-layout"),
                                           QStringLiteral("Start with the default arrangement of the panels, "
                                                          "whatever layout was saved."));
-  parser.addOptions({screenshot, seed, blocks, options_shot, icons, trigger, hierarchy_rows, filter, dump, panel,
-                     default_layout});
+  parser.addOptions({screenshot, seed, blocks, shapes, options_shot, icons, trigger, hierarchy_rows, filter,
+                     dump, panel, default_layout, export_pdf, zoom, select_rect, rubber_band});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -75,8 +101,12 @@ int main(int argc, char** argv)
   }
 
   FLOORPLAN_WINDOW window(parser.value(seed).toUInt(), qBound(1, parser.value(blocks).toInt(), 24),
-                          qBound(0, parser.value(hierarchy_rows).toInt(), 5000000), !parser.isSet(default_layout));
+                          qBound(1000, parser.value(shapes).toInt(), 20000000),
+                          qBound(0, parser.value(hierarchy_rows).toInt(), 5000000),
+                          !parser.isSet(default_layout));
   window.show();
+  // Laid out and fitted, so a zoom given below starts from the whole chip.
+  QCoreApplication::processEvents();
   int rc = 0;
   // The hierarchy panel comes from the panel library; it is reached through
   // its meta-object, the viewer does not link its code.
@@ -108,6 +138,44 @@ int main(int argc, char** argv)
     rc = dialog->grab().save(parser.value(options_shot), "PNG") ? 0 : 1;
     delete dialog;
   }
+  if (parser.isSet(select_rect)) {
+    const QStringList parts = parser.value(select_rect).split(QLatin1Char(','));
+    QVector<int> numbers;
+    for (const QString& part : parts) {
+      bool ok = false;
+      const int number = part.trimmed().toInt(&ok);
+      if (ok)
+        numbers << number;
+    }
+    if (parts.size() != 4 || numbers.size() != 4 || numbers[2] <= 0 || numbers[3] <= 0) {
+      std::fprintf(stderr, "floorplan_viewer: --select-rect wants x,y,w,h with w and h above 0, not %s\n",
+                   qPrintable(parser.value(select_rect)));
+      rc = 1;
+    } else {
+      window.view()->select_logical_rect(QRect(numbers[0], numbers[1], numbers[2], numbers[3]),
+                                         FLOORPLAN_SELECTION::REPLACE);
+    }
+  }
+  if (parser.isSet(zoom)) {
+    bool ok = false;
+    const float factor = parser.value(zoom).toFloat(&ok);
+    if (!ok || !(factor > 0.0f)) {
+      std::fprintf(stderr, "floorplan_viewer: --zoom wants a number above 0, not %s\n",
+                   qPrintable(parser.value(zoom)));
+      rc = 1;
+    } else {
+      window.zoom_area()->set_zoom(factor);
+    }
+  }
+  if (parser.isSet(export_pdf)) {
+    const QString file = parser.value(export_pdf);
+    if (window.export_pdf(file)) {
+      std::printf("floorplan_viewer: PDF written to %s\n", qPrintable(file));
+    } else {
+      std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));
+      rc = 1;
+    }
+  }
   for (const QString& name : parser.values(trigger)) {
     QAction* action = window.findChild<QAction*>(name);
     if (!action) {
@@ -124,6 +192,8 @@ int main(int argc, char** argv)
       QCoreApplication::processEvents();
     std::printf("floorplan_viewer: status: %s\n", qPrintable(window.status_text()));
     std::printf("floorplan_viewer: seed: %u\n", window.seed());
+    std::printf("floorplan_viewer: selection: %s\n", qPrintable(window.selection_status()));
+    std::printf("floorplan_viewer: zoom: %s\n", qPrintable(window.zoom_status()));
     if (hierarchy) {
       QString text;
       QMetaObject::invokeMethod(hierarchy, "status_text", Q_RETURN_ARG(QString, text));
@@ -133,6 +203,24 @@ int main(int argc, char** argv)
       std::printf("floorplan_viewer: panel: %s %s%s\n", qPrintable(dock->windowTitle()),
                   dock->is_closed() ? "closed" : dock->isFloating() ? "floating" : dock->is_pinned() ? "pinned" : "auto-hidden",
                   dock->isVisible() ? ", shown" : "");
+    // The band a rectangle drag shows, made as the tracker makes it and held
+    // still for the picture.
+    std::unique_ptr<ORQ_RECT_DRAG_TRACKER_CALLBACK> band;
+    if (parser.isSet(rubber_band)) {
+      const QStringList parts = parser.value(rubber_band).split(QLatin1Char(','));
+      const QPoint origin = window.view()->get_viewport_rect().topLeft();
+      if (parts.size() == 4) {
+        const QPoint from = origin + QPoint(parts[0].toInt(), parts[1].toInt());
+        const QPoint to = origin + QPoint(parts[2].toInt(), parts[3].toInt());
+        band = std::make_unique<ORQ_RECT_DRAG_TRACKER_CALLBACK>(window.view(), from, nullptr);
+        band->update_drag_position(from, to);
+        QCoreApplication::processEvents();
+      } else {
+        std::fprintf(stderr, "floorplan_viewer: --rubber-band wants x1,y1,x2,y2, not %s\n",
+                     qPrintable(parser.value(rubber_band)));
+        rc = 1;
+      }
+    }
     const QString file = parser.value(screenshot);
     if (!window.grab_with_floating_panels().save(file, "PNG")) {
       std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));

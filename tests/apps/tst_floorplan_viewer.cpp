@@ -3,18 +3,24 @@
 
 #include <orq.h>
 
+#include "floorplan_model.h"
+
 #include <QImage>
 #include <QSet>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 namespace {
 // Runs the viewer with a small design hierarchy unless args choose one: the
-// default size is built for people, not for sanitizer runs.
+// default size is built for people, not for sanitizer runs. The chip keeps
+// its default million shapes, but for the sanitizers.
 int run_viewer(const QString& home, QStringList args, QString* err = nullptr, QString* out = nullptr)
 {
   if (!args.contains(QStringLiteral("--hierarchy-rows")))
     args << QStringLiteral("--hierarchy-rows") << QStringLiteral("500");
+  if (!args.contains(QStringLiteral("--shapes")))
+    args << QStringLiteral("--shapes") << QString::number(orq_test_rounds(1000000, 100000));
   QProcess viewer;
   viewer.setProcessEnvironment(orq_test_child_environment(home));
   viewer.setWorkingDirectory(home);
@@ -338,6 +344,168 @@ private slots:
              1);
     QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: no action ORQ_NO_SUCH_ACTION in the menus")),
              qPrintable(err));
+  }
+
+  void exported_pdf_shows_the_whole_drawing()
+  {
+    QTemporaryDir home;
+    const QString pdf = home.filePath(QStringLiteral("plan.pdf"));
+    QString out;
+    QCOMPARE(
+        run_viewer(home.path(),
+                   {QStringLiteral("--hierarchy-rows"), QStringLiteral("0"), QStringLiteral("--export-pdf"),
+                    pdf, QStringLiteral("--screenshot"), home.filePath(QStringLiteral("shot.png"))},
+                   nullptr, &out),
+        0);
+    QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: PDF written to %1\n").arg(pdf)), qPrintable(out));
+    QFile file(pdf);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QVERIFY(bytes.startsWith("%PDF-"));
+    QVERIFY(bytes.trimmed().endsWith("%%EOF"));
+    QVERIFY2(bytes.size() > 20000, qPrintable(QString::number(bytes.size())));
+
+    const QString pdftoppm = QStandardPaths::findExecutable(QStringLiteral("pdftoppm"));
+    if (pdftoppm.isEmpty())
+      QSKIP("pdftoppm (poppler-utils) is not installed: the page is not rendered");
+    QProcess render;
+    render.start(pdftoppm, {QStringLiteral("-r"), QStringLiteral("40"), QStringLiteral("-png"),
+                            QStringLiteral("-singlefile"), pdf, home.filePath(QStringLiteral("page"))});
+    QVERIFY(render.waitForFinished(60000));
+    QCOMPARE(render.exitCode(), 0);
+    const QImage page(home.filePath(QStringLiteral("page.png")));
+    QVERIFY(!page.isNull());
+    QVERIFY(page.width() > page.height()); // landscape, as the die is
+    // The drawing is the die on its background, fitted to the page: what
+    // is not the paper's white spans the page one way or the other.
+    const QRgb paper = qRgb(255, 255, 255);
+    QRect drawn;
+    for (int y = 0; y < page.height(); ++y)
+      for (int x = 0; x < page.width(); ++x)
+        if (page.pixel(x, y) != paper)
+          drawn |= QRect(x, y, 1, 1);
+    QVERIFY2(drawn.width() > page.width() * 0.8 || drawn.height() > page.height() * 0.8,
+             qPrintable(QStringLiteral("%1x%2 of %3x%4")
+                            .arg(drawn.width())
+                            .arg(drawn.height())
+                            .arg(page.width())
+                            .arg(page.height())));
+    // Ink all over the die, not a blank frame: every part of a grid over the
+    // die (the drawing less its margin) holds several colours.
+    const QRect die =
+        drawn.adjusted(drawn.width() / 30, drawn.height() / 30, -drawn.width() / 30, -drawn.height() / 30);
+    for (int gy = 0; gy < 4; ++gy) {
+      for (int gx = 0; gx < 6; ++gx) {
+        const QRect part(die.left() + gx * die.width() / 6, die.top() + gy * die.height() / 4,
+                         die.width() / 6, die.height() / 4);
+        QSet<QRgb> colours;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+          for (int x = part.left(); x <= part.right(); ++x)
+            colours.insert(page.pixel(x, y));
+        QVERIFY2(colours.size() >= 4,
+                 qPrintable(QStringLiteral("part %1,%2: %3 colours").arg(gx).arg(gy).arg(colours.size())));
+      }
+    }
+  }
+
+  void an_unwritable_pdf_is_reported()
+  {
+    QTemporaryDir home;
+    QString err;
+    QCOMPARE(
+        run_viewer(home.path(),
+                   {QStringLiteral("--export-pdf"), home.filePath(QStringLiteral("no/such/dir/plan.pdf")),
+                    QStringLiteral("--screenshot"), home.filePath(QStringLiteral("shot.png"))},
+                   &err),
+        1);
+    QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: cannot write %1")
+                              .arg(home.filePath(QStringLiteral("no/such/dir/plan.pdf")))),
+             qPrintable(err));
+  }
+
+  void zoom_and_selection_from_the_command_line_data()
+  {
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("zoom 100") << QStringList{QStringLiteral("--zoom"), QStringLiteral("100")} << 0
+                              << "zoom: Zoom 10000.0%";
+    QTest::newRow("zoom 2.5") << QStringList{QStringLiteral("--zoom"), QStringLiteral("2.5")} << 0
+                              << "zoom: Zoom 250.0%";
+    QTest::newRow("nothing selected") << QStringList() << 0 << "selection: Nothing selected";
+    QTest::newRow("a rectangle of cells")
+        << QStringList{QStringLiteral("--select-rect"), QStringLiteral("400000,300000,30000,20000")} << 0
+        << "selection: cells in 400000,300000,30000,20000";
+    QTest::newRow("a rectangle round the whole die")
+        << QStringList{QStringLiteral("--select-rect"), QStringLiteral("-1,-1,1200002,900002")} << 0
+        << "selection: cells in -1,-1,1200002,900002";
+    QTest::newRow("three numbers") << QStringList{QStringLiteral("--select-rect"), QStringLiteral("1,2,3")}
+                                   << 1 << "--select-rect wants x,y,w,h with w and h above 0, not 1,2,3";
+    QTest::newRow("a zoom below zero") << QStringList{QStringLiteral("--zoom"), QStringLiteral("-3")} << 1
+                                       << "--zoom wants a number above 0, not -3";
+  }
+
+  // The selection's text is checked against the shapes of the same design,
+  // picked here by brute force.
+  void zoom_and_selection_from_the_command_line()
+  {
+    QFETCH(QStringList, args);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QTemporaryDir home;
+    QString out;
+    QString err;
+    args << QStringLiteral("--shapes") << QStringLiteral("100000") << QStringLiteral("--screenshot")
+         << home.filePath(QStringLiteral("shot.png"));
+    QCOMPARE(run_viewer(home.path(), args, &err, &out), code);
+    if (expected.startsWith(QLatin1String("selection: cells in "))) {
+      const QStringList n = expected.mid(20).split(QLatin1Char(','));
+      const QRect rect(n[0].toInt(), n[1].toInt(), n[2].toInt(), n[3].toInt());
+      const FP_BOX box = FP_BOX::from_rect(rect);
+      const FLOORPLAN plan = make_floorplan(7, 18, 100000);
+      int blocks = 0;
+      int cells = 0;
+      int pads = 0;
+      for (const FP_SHAPE& shape : plan.shapes) {
+        if (!box.contains(shape.box))
+          continue;
+        blocks += shape.kind == FP_KIND::BLOCK;
+        cells += shape.kind == FP_KIND::CELL;
+        pads += shape.kind == FP_KIND::PAD;
+      }
+      const QLocale english(QLocale::English);
+      QStringList parts;
+      if (blocks)
+        parts << QStringLiteral("%1 blocks").arg(blocks);
+      parts << QStringLiteral("%1 cells").arg(english.toString(cells));
+      if (pads)
+        parts << QStringLiteral("%1 pads").arg(pads);
+      expected =
+          QStringLiteral("selection: ") + parts.join(QStringLiteral(", ")) + QStringLiteral(" selected");
+    }
+    if (code == 0)
+      QVERIFY2(out.contains(QStringLiteral("floorplan_viewer: ") + expected + QLatin1Char('\n')),
+               qPrintable(out + err));
+    else
+      QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: ") + expected), qPrintable(err));
+  }
+
+  void zoom_selection_brings_the_selection_into_view()
+  {
+    QTemporaryDir home;
+    QString out;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--select-rect"), QStringLiteral("400000,300000,30000,20000"),
+                         QStringLiteral("--trigger"), QStringLiteral("ORQ_ZOOM_SELECTION_ACTION"),
+                         QStringLiteral("--screenshot"), home.filePath(QStringLiteral("shot.png"))},
+                        nullptr, &out),
+             0);
+    const QRegularExpressionMatch zoom =
+        QRegularExpression(QStringLiteral("floorplan_viewer: zoom: Zoom ([0-9.]+)%\n")).match(out);
+    QVERIFY2(zoom.hasMatch(), qPrintable(out));
+    // About 30 by 20 micrometres fill a viewport of several hundred pixels:
+    // far more than a pixel a micrometre.
+    QVERIFY2(zoom.captured(1).toDouble() > 1000, qPrintable(out));
   }
 
   void icon_sheet_shows_every_icon()
