@@ -1,5 +1,7 @@
 #include "floorplan_line_layer.h"
 
+#include "floorplan_blend.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -9,17 +11,6 @@
 #include <utility>
 
 namespace {
-inline unsigned byte_mul(unsigned x, unsigned a)
-{
-  unsigned t = (x & 0xff00ffu) * a;
-  t = (t + ((t >> 8) & 0xff00ffu) + 0x800080u) >> 8;
-  t &= 0xff00ffu;
-  x = ((x >> 8) & 0xff00ffu) * a;
-  x = (x + ((x >> 8) & 0xff00ffu) + 0x800080u);
-  x &= 0xff00ff00u;
-  return x | t;
-}
-
 // Liang-Barsky: the part of the line inside [0, w) x [0, h), false if none.
 bool clip(double& x0, double& y0, double& x1, double& y1, double w, double h)
 {
@@ -82,8 +73,7 @@ inline void FLOORPLAN_LINE_LAYER::plot(int x, int y, unsigned coverage)
   if (unsigned(x) >= unsigned(m_width) || unsigned(y) >= unsigned(m_height) || coverage == 0)
     return;
   unsigned* pixel = m_bits + std::size_t(y) * std::size_t(m_stride) + std::size_t(x);
-  const unsigned source = byte_mul(m_color, coverage);
-  *pixel = source + byte_mul(*pixel, 255u - (source >> 24));
+  *pixel = fpv_over(fpv_byte_mul(m_color, coverage), *pixel);
   ++m_pixels;
 }
 

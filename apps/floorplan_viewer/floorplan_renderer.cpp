@@ -1,5 +1,6 @@
 #include "floorplan_renderer.h"
 
+#include "floorplan_blend.h"
 #include "floorplan_data.h"
 #include "floorplan_selection.h"
 
@@ -81,23 +82,6 @@ QRectF rect_of(const FP_BOX& box)
   return QRectF(box.x1, box.y1, box.x2 - box.x1, box.y2 - box.y1);
 }
 
-// Premultiplied ARGB arithmetic for the coverage image, as Qt's own blend
-// functions do it: two channels at a time.
-inline std::uint32_t byte_mul(std::uint32_t x, std::uint32_t a)
-{
-  std::uint32_t t = (x & 0xff00ffu) * a;
-  t = (t + ((t >> 8) & 0xff00ffu) + 0x800080u) >> 8;
-  t &= 0xff00ffu;
-  x = ((x >> 8) & 0xff00ffu) * a;
-  x = (x + ((x >> 8) & 0xff00ffu) + 0x800080u);
-  x &= 0xff00ff00u;
-  return x | t;
-}
-
-inline std::uint32_t over(std::uint32_t source, std::uint32_t destination)
-{
-  return source + byte_mul(destination, 255u - (source >> 24));
-}
 
 void fill_lut(std::uint32_t* lut, const QColor& color, double alpha_per_level, int alpha_floor)
 {
@@ -405,14 +389,14 @@ void FLOORPLAN_RENDERER::paint_coverage(FRAME& frame, bool cells)
       std::uint32_t pixel =
           cells ? cell_lut[std::size_t(owner[x]) * 256 + source[FLOORPLAN_DATA::COVERAGE_CELLS]] : 0u;
       if (const std::uint8_t wiring = source[FLOORPLAN_DATA::COVERAGE_NETS])
-        pixel = over(net_lut[wiring], pixel);
+        pixel = fpv_over(net_lut[wiring], pixel);
       out[x] = pixel;
     }
     if (selected) {
       const std::uint8_t* line = selected + std::size_t(r1 + y) * std::size_t(columns) + std::size_t(c1);
       for (int x = 0; x < w; ++x)
         if (line[x])
-          out[x] = over(selection_lut[line[x]], out[x]);
+          out[x] = fpv_over(selection_lut[line[x]], out[x]);
     }
   }
   frame.painter->drawImage(
