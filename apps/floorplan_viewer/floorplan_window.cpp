@@ -565,6 +565,18 @@ void FLOORPLAN_WINDOW::build_zoom_actions(QMenu* view_menu)
   auto* modes = new QActionGroup(this);
   modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
   m_zoom_area->insert_modes(modes);
+  // Shift+Ctrl with the left button pans while the keys are held; the mode
+  // the user was in comes back when one goes up.
+  QAction* pan = m_zoom_area->get_pan_tool_action();
+  connect(modes, &QActionGroup::triggered, this, [this, pan](QAction* action) {
+    if (action != pan)
+      m_mode_before_pan = action->isChecked() ? action : nullptr;
+  });
+  connect(m_zoom_area, &ORQ_ZOOM_SCROLL_AREA::pan_mode_off, this, [this, pan] {
+    if (m_mode_before_pan)
+      m_mode_before_pan->setChecked(true);
+    m_zoom_area->on_switch_mode(m_mode_before_pan ? m_mode_before_pan.data() : pan);
+  });
   view_menu->addAction(m_zoom_area->get_zoom_tool_action());
   view_menu->addAction(m_zoom_area->get_magnifying_action());
   view_menu->addAction(m_zoom_area->get_pan_tool_action());

@@ -5,6 +5,7 @@
 #include "orq_main_window.h"
 
 #include <QList>
+#include <QPointer>
 
 class FLOORPLAN_VIEW;
 class ORQ_DIALOG;
@@ -86,6 +87,8 @@ private:
 
   ORQ_MDI_AREA* m_mdi;
   ORQ_ZOOM_SCROLL_AREA* m_zoom_area;
+  // The mode a temporary pan interrupted; null for selection mode.
+  QPointer<QAction> m_mode_before_pan;
   FLOORPLAN_VIEW* m_view;
   QPlainTextEdit* m_block_list;
   QWidget* m_hierarchy = nullptr;
