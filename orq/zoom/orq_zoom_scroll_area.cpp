@@ -39,6 +39,8 @@ bool is_right(const QMouseEvent* event)
   return event->button() == Qt::RightButton;
 }
 
+// The event's own modifiers count too: an event replayed or sent by a tool
+// carries Shift without the application's key state having seen it.
 bool shift_held(Qt::KeyboardModifiers modifiers)
 {
   return (modifiers | QGuiApplication::keyboardModifiers()) & Qt::ShiftModifier;
