@@ -9,7 +9,10 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QSet>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -394,6 +397,93 @@ private slots:
     QVERIFY(physical.width() >= viewport.width() * 0.8 || physical.height() >= viewport.height() * 0.8);
     m_area->zoom_fit();
     QVERIFY(std::abs(view->get_zoom() / fitted - 1.0f) < 0.01f);
+  }
+
+  // The lens's painter is scaled and clipped to a circle; the renderer
+  // draws much of the detail in device pixels with the transform reset, so
+  // the clip must still hold and the picture match a plain one at that
+  // scale. The screen's frame statistics are the screen's alone.
+  void the_lens_draws_the_plan_enlarged()
+  {
+    FLOORPLAN_VIEW* view = make_view();
+    // No frame: the lens's centre is then exactly the pointer's place.
+    m_area->setFrameShape(QFrame::NoFrame);
+    // Over the middle of a fence, among its cells.
+    const QPoint target = first_block(view->floorplan(), false)->rect.center();
+    m_area->set_zoom(10.0f);
+    m_area->scroll_to_logical_rect(QRect(target, QSize(1, 1)));
+    QCoreApplication::processEvents();
+    ORQ_MAGNIFYING_GLASS_WIDGET::set_size_level(2.0);
+    ORQ_MAGNIFYING_GLASS_WIDGET::set_magnification(3.0);
+    m_area->get_magnifying_action()->trigger();
+    QVERIFY(m_area->get_magnifying_action()->isChecked());
+    const QPoint press = view->get_physical(target);
+    QVERIFY(m_area->viewport()->rect().contains(view->mapTo(m_area->viewport(), press)));
+    const int before = view->last_paint_stats().cells;
+    QImage lens_image;
+    QPointF logical_centre;
+    double radius = 0;
+    int cells_after = -1;
+    QObject guard;
+    QTimer::singleShot(0, &guard, [&] {
+      if (auto* lens = m_area->findChild<ORQ_MAGNIFYING_GLASS_WIDGET*>()) {
+        radius = lens->get_radius();
+        lens_image = QImage(lens->size(), QImage::Format_ARGB32_Premultiplied);
+        lens_image.fill(Qt::transparent);
+        lens->render(&lens_image, QPoint(), QRegion(), QWidget::DrawChildren);
+        cells_after = view->last_paint_stats().cells;
+        const QPoint centre = lens->get_centre();
+        const double z = view->get_absolute_zoom_multiplier();
+        const QPoint origin = view->get_logical(QPoint(0, 0));
+        logical_centre = QPointF((centre.x() + m_area->horizontalScrollBar()->value()) / z + origin.x(),
+                                 (centre.y() + m_area->verticalScrollBar()->value()) / z + origin.y());
+      }
+      QMouseEvent release(QEvent::MouseButtonRelease, press, view->mapToGlobal(press), Qt::LeftButton,
+                          Qt::NoButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(view, &release);
+    });
+    QMouseEvent down(QEvent::MouseButtonPress, press, view->mapToGlobal(press), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view, &down);
+    QVERIFY(!lens_image.isNull());
+    QCOMPARE(radius, 100.0);
+    QCOMPARE(cells_after, before);
+    // What was under the pointer is at the lens's centre.
+    QVERIFY(std::abs(logical_centre.x() - view->get_logical(press).x()) <=
+            1.0 / view->get_absolute_zoom_multiplier());
+
+    // The same drawing at zoom times three, centred on the same point.
+    const double scale = view->get_absolute_zoom_multiplier() * 3.0;
+    QImage reference(lens_image.size(), QImage::Format_ARGB32_Premultiplied);
+    reference.fill(Qt::transparent);
+    {
+      QPainter painter(&reference);
+      painter.scale(scale, scale);
+      painter.translate(-(logical_centre.x() - radius / scale), -(logical_centre.y() - radius / scale));
+      view->paint(&painter, nullptr, view, reference.rect(), false);
+    }
+    // Inside the glass, short of its rim: the plan, as the plain picture
+    // has it. Outside the circle and the handle: nothing.
+    int inside = 0;
+    int same = 0;
+    for (int y = 0; y < lens_image.height(); ++y)
+      for (int x = 0; x < lens_image.width(); ++x) {
+        const double dx = x + 0.5 - radius;
+        const double dy = y + 0.5 - radius;
+        if (dx * dx + dy * dy < 0.8 * radius * 0.8 * radius) {
+          ++inside;
+          same += lens_image.pixel(x, y) == reference.pixel(x, y) ? 1 : 0;
+        }
+      }
+    QVERIFY2(same > inside * 95 / 100, qPrintable(QStringLiteral("%1 of %2").arg(same).arg(inside)));
+    QCOMPARE(qAlpha(lens_image.pixel(lens_image.width() - 5, 5)), 0);
+    QCOMPARE(qAlpha(lens_image.pixel(5, lens_image.height() - 5)), 0);
+    // More than a flat fill: the cells, three times as large.
+    QSet<QRgb> colours;
+    for (int y = int(radius) - 50; y < int(radius) + 50; y += 2)
+      for (int x = int(radius) - 50; x < int(radius) + 50; x += 2)
+        colours.insert(lens_image.pixel(x, y));
+    QVERIFY2(colours.size() > 3, qPrintable(QString::number(colours.size())));
   }
 
   void printing_draws_the_whole_drawing_on_the_page()

@@ -508,6 +508,129 @@ private slots:
     QVERIFY2(zoom.captured(1).toDouble() > 1000, qPrintable(out));
   }
 
+  // The lens, drawn over the plan where the press was: the same window
+  // without it differs there and nowhere else between the bars.
+  void demo_lens_shows_in_the_screenshot()
+  {
+    QTemporaryDir home;
+    const QString plain = home.filePath(QStringLiteral("plain.png"));
+    const QString lens = home.filePath(QStringLiteral("lens.png"));
+    const QStringList common{QStringLiteral("--default-layout"), QStringLiteral("--shapes"),
+                             QStringLiteral("100000"), QStringLiteral("--zoom"), QStringLiteral("20")};
+    QCOMPARE(run_viewer(home.path(), common + QStringList{QStringLiteral("--screenshot"), plain}), 0);
+    QString out;
+    QString err;
+    QCOMPARE(run_viewer(home.path(),
+                        common + QStringList{QStringLiteral("--demo"), QStringLiteral("lens"),
+                                             QStringLiteral("300,200"), QStringLiteral("--screenshot"), lens},
+                        &err, &out),
+             0);
+    const QRegularExpressionMatch said =
+        QRegularExpression(QStringLiteral("floorplan_viewer: demo: lens at 300,200 \\((\\d+),(\\d+) in the "
+                                          "window\\), radius 100, magnification 3\n"))
+            .match(out);
+    QVERIFY2(said.hasMatch(), qPrintable(out + err));
+    const QPoint centre(said.captured(1).toInt(), said.captured(2).toInt());
+    const QImage a = QImage(plain).convertToFormat(QImage::Format_RGB32);
+    const QImage b = QImage(lens).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(b.size(), a.size());
+    QVERIFY(a.rect().contains(centre));
+    // The lens's box: three radii from a radius above and left of the press.
+    const QRect box(centre - QPoint(100, 100), QSize(300, 300));
+    int inside = 0;
+    int changed = 0;
+    int elsewhere = 0;
+    for (int y = 60; y < a.height() - 30; ++y)
+      for (int x = 0; x < a.width(); ++x) {
+        const bool differs = a.pixel(x, y) != b.pixel(x, y);
+        const QPoint d = QPoint(x, y) - centre;
+        if (d.x() * d.x() + d.y() * d.y() < 80 * 80) {
+          ++inside;
+          changed += differs ? 1 : 0;
+        } else if (!box.contains(x, y)) {
+          elsewhere += differs ? 1 : 0;
+        }
+      }
+    // The glass shows the plan three times larger: most of it is not what
+    // lay under it.
+    QVERIFY2(changed > inside / 2, qPrintable(QStringLiteral("%1 of %2").arg(changed).arg(inside)));
+    QCOMPARE(elsewhere, 0);
+  }
+
+  void demos_report_what_showed_data()
+  {
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("zoom drag 120 px up")
+        << QStringList{QStringLiteral("--demo"), QStringLiteral("zoom-drag"), QStringLiteral("300,200")} << 0
+        << "floorplan_viewer: demo: zoom drag from 300,200, 120 px up: 124%\n";
+    QTest::newRow("gesture up-left")
+        << QStringList{QStringLiteral("--demo"), QStringLiteral("gesture"), QStringLiteral("300,200")} << 0
+        << "floorplan_viewer: demo: gesture from 300,200, 150 px up-left: zoom in 130%\n";
+    QTest::newRow("a click on the zoom read-out")
+        << QStringList{QStringLiteral("--demo"), QStringLiteral("set-zoom"), QStringLiteral("250")} << 0
+        << "floorplan_viewer: demo: the zoom read-out opened the Zoom dialog at 2000.0%; 250 typed: Zoom "
+           "250.0%\n";
+    QTest::newRow("no point") << QStringList{QStringLiteral("--demo"), QStringLiteral("lens")} << 1
+                              << "floorplan_viewer: --demo lens wants X,Y, not \"\"";
+    QTest::newRow("an unknown kind") << QStringList{QStringLiteral("--demo"), QStringLiteral("loupe"),
+                                                    QStringLiteral("1,1")}
+                                     << 1 << "floorplan_viewer: --demo unknown kind \"loupe\"";
+  }
+
+  void demos_report_what_showed()
+  {
+    QFETCH(QStringList, args);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QTemporaryDir home;
+    QString out;
+    QString err;
+    args << QStringLiteral("--default-layout") << QStringLiteral("--shapes") << QStringLiteral("100000")
+         << QStringLiteral("--zoom") << QStringLiteral("20") << QStringLiteral("--screenshot")
+         << home.filePath(QStringLiteral("shot.png"));
+    QCOMPARE(run_viewer(home.path(), args, &err, &out), code);
+    QVERIFY2((code ? err : out).contains(expected), qPrintable(out + err));
+    QVERIFY(!QImage(home.filePath(QStringLiteral("shot.png"))).isNull());
+  }
+
+  void a_mode_switch_says_what_the_mouse_does_data()
+  {
+    QTest::addColumn<QStringList>("tools");
+    QTest::addColumn<QString>("hint");
+    QTest::newRow("zoom") << QStringList{QStringLiteral("ORQ_ZOOM_TOOL_ACTION")}
+                          << "Click zooms in, Shift/right click out; right drag up/down zooms";
+    QTest::newRow("magnifying") << QStringList{QStringLiteral("ORQ_MAGNIFYING_TOOL_ACTION")}
+                                << "Press to show the lens; wheel magnifies, Ctrl+wheel resizes";
+    QTest::newRow("pan") << QStringList{QStringLiteral("ORQ_PAN_TOOL_ACTION")} << "Drag to pan";
+    // The arrows of the hint are left out: the output's encoding is the
+    // locale's.
+    QTest::newRow("back to selection")
+        << QStringList{QStringLiteral("ORQ_ZOOM_TOOL_ACTION"), QStringLiteral("ORQ_ZOOM_TOOL_ACTION")}
+        << "selects; Shift+Ctrl+drag pans";
+  }
+
+  void a_mode_switch_says_what_the_mouse_does()
+  {
+    QFETCH(QStringList, tools);
+    QFETCH(QString, hint);
+    QTemporaryDir home;
+    QStringList args{QStringLiteral("--shapes"), QStringLiteral("100000"), QStringLiteral("--screenshot"),
+                     home.filePath(QStringLiteral("shot.png"))};
+    for (const QString& tool : tools)
+      args << QStringLiteral("--trigger") << tool;
+    QString out;
+    QCOMPARE(run_viewer(home.path(), args, nullptr, &out), 0);
+    const QRegularExpressionMatch status =
+        QRegularExpression(QStringLiteral("floorplan_viewer: status: ([^\n]*)\n")).match(out);
+    QVERIFY2(status.hasMatch(), qPrintable(out));
+    if (tools.size() == 1)
+      QCOMPARE(status.captured(1), hint);
+    else
+      QVERIFY2(status.captured(1).endsWith(hint), qPrintable(status.captured(1)));
+  }
+
   void icon_sheet_shows_every_icon()
   {
     QTemporaryDir home;

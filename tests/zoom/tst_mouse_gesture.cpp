@@ -17,14 +17,15 @@ struct SEEN {
 // Presses the left button at press (viewport pixels), moves by offset and
 // releases there, the moves queued before the overlay's loop starts.
 SEEN left_gesture(ZOOM_FIXTURE& fixture, const QPoint& press, const QPoint& offset,
-                  Qt::KeyboardModifiers move_modifiers = Qt::NoModifier, bool release = true)
+                  Qt::KeyboardModifiers move_modifiers = Qt::NoModifier, bool release = true,
+                  Qt::MouseButtons move_buttons = Qt::LeftButton)
 {
   TEST_VIEW* view = fixture.view;
   const QPoint at = view->mapFrom(fixture.viewport(), press);
   SEEN seen;
   QTimer::singleShot(0, view, [&, view, at] {
     send_mouse(view, QEvent::MouseMove, at + offset / 2, Qt::NoButton, Qt::LeftButton);
-    send_mouse(view, QEvent::MouseMove, at + offset, Qt::NoButton, Qt::LeftButton, move_modifiers);
+    send_mouse(view, QEvent::MouseMove, at + offset, Qt::NoButton, move_buttons, move_modifiers);
     if (auto* overlay = view->findChild<ORQ_MOUSE_GESTURE_WIDGET*>()) {
       seen.quadrant = overlay->get_quadrant();
       auto* label = overlay->findChild<QLabel*>(QStringLiteral("gesture_label"));
@@ -89,6 +90,10 @@ private slots:
     QTest::newRow("within 9 x 9 is a click") << QPoint(9, 9) << "zoom in" << 1 << int(FACTOR) << 1.25f;
     QTest::newRow("up-left within 9 x 9 is a click too")
         << QPoint(-9, -9) << "zoom in 101.8%" << 3 << int(FACTOR) << 1.25f;
+    QTest::newRow("up-right within 9 x 9 is a click")
+        << QPoint(9, -9) << "zoom out 98.2%" << 0 << int(FACTOR) << 1.25f;
+    QTest::newRow("down-left within 9 x 9 is a click")
+        << QPoint(-9, 9) << "zoom fit" << 2 << int(FACTOR) << 1.25f;
     QTest::newRow("10 across is a gesture")
         << QPoint(10, -1) << "zoom out 99.8%" << 0 << int(FACTOR) << 0.998f;
   }
@@ -131,21 +136,25 @@ private slots:
   void a_modifier_or_another_button_ends_the_gesture_data()
   {
     QTest::addColumn<int>("modifiers");
-    QTest::newRow("Shift") << int(Qt::ShiftModifier);
-    QTest::newRow("Ctrl") << int(Qt::ControlModifier);
+    QTest::addColumn<int>("buttons");
+    QTest::newRow("Shift") << int(Qt::ShiftModifier) << int(Qt::LeftButton);
+    QTest::newRow("Ctrl") << int(Qt::ControlModifier) << int(Qt::LeftButton);
+    QTest::newRow("the right button too") << 0 << int(Qt::LeftButton | Qt::RightButton);
+    QTest::newRow("the right button instead") << 0 << int(Qt::RightButton);
   }
 
   void a_modifier_or_another_button_ends_the_gesture()
   {
     QFETCH(int, modifiers);
+    QFETCH(int, buttons);
     ZOOM_FIXTURE fixture;
     QVERIFY(fixture.show());
     fixture.area->get_zoom_tool_action()->trigger();
     settle();
     QSignalSpy zoomed(fixture.area, &ORQ_ZOOM_SCROLL_AREA::zoom_level_changed);
     // No release is queued: the move alone must end the overlay's loop.
-    const SEEN seen =
-        left_gesture(fixture, QPoint(250, 200), QPoint(-100, -100), Qt::KeyboardModifiers(modifiers), false);
+    const SEEN seen = left_gesture(fixture, QPoint(250, 200), QPoint(-100, -100),
+                                   Qt::KeyboardModifiers(modifiers), false, Qt::MouseButtons(buttons));
     QVERIFY(!seen.label_visible);
     QVERIFY(!fixture.view->findChild<ORQ_MOUSE_GESTURE_WIDGET*>());
     send_mouse(fixture.view, QEvent::MouseButtonRelease, QPoint(250, 200), Qt::LeftButton, Qt::NoButton);
@@ -153,6 +162,42 @@ private slots:
     QCOMPARE(zoomed.count(), 0);
     QCOMPARE(fixture.view->get_zoom(), 1.0f);
     QCOMPARE(fixture.scroll(), QPoint(600, 500));
+  }
+
+  // The percentage of an upward drag stays in the overlay when the mouse
+  // comes down again; the fit gesture just does not show it.
+  void down_left_after_up_left_shows_only_fit()
+  {
+    ZOOM_FIXTURE fixture;
+    QVERIFY(fixture.show());
+    fixture.area->get_zoom_tool_action()->trigger();
+    settle();
+    TEST_VIEW* view = fixture.view;
+    const QPoint at = view->mapFrom(fixture.viewport(), QPoint(250, 200));
+    QString up_label;
+    QString fit_label;
+    float kept = 0;
+    int quadrant = -2;
+    QObject guard;
+    QTimer::singleShot(0, &guard, [&] {
+      send_mouse(view, QEvent::MouseMove, at + QPoint(-50, -50), Qt::NoButton, Qt::LeftButton);
+      auto* overlay = view->findChild<ORQ_MOUSE_GESTURE_WIDGET*>();
+      if (overlay)
+        up_label = overlay->get_label()->text();
+      send_mouse(view, QEvent::MouseMove, at + QPoint(-60, 40), Qt::NoButton, Qt::LeftButton);
+      if (overlay) {
+        fit_label = overlay->get_label()->text();
+        kept = overlay->get_zoom_percentage();
+        quadrant = overlay->get_quadrant();
+      }
+      send_mouse(view, QEvent::MouseButtonRelease, at + QPoint(-60, 40), Qt::LeftButton, Qt::NoButton);
+    });
+    send_mouse(view, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+    QCOMPARE(up_label, QStringLiteral("zoom in 110%"));
+    QCOMPARE(fit_label, QStringLiteral("zoom fit"));
+    QCOMPARE(quadrant, 2);
+    QCOMPARE(kept, 110.0f);
+    QVERIFY(same_zoom(view->get_zoom(), fit_zoom(fixture)));
   }
 
   void selection_mode_gestures_data()

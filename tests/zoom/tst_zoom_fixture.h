@@ -7,9 +7,11 @@
 #include <orq.h>
 
 #include <QActionGroup>
+#include <QBitmap>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
@@ -26,12 +28,32 @@ public:
   using ORQ_VIEW::set_static_scaling_transform;
   using ORQ_VIEW::set_zoom_internal;
 
+  // What a call of paint() was given, as the magnifying glass calls it.
+  struct PAINT_CALL {
+    bool magnify_glass = false;
+    QRect magnify_glass_rect;
+    QTransform transform;
+    bool clipped = false;
+    QWidget* target = nullptr;
+    QRect rect;
+    bool printing = false;
+  };
+
   QRect selected;
   bool gestures = false;
   bool rect_selection = true;
   QVector<QRect> rect_selections;
   int clicks = 0;
+  QVector<PAINT_CALL> paints;
 
+  void paint(QPainter* painter, QPaintEvent*, QWidget* target, QRect rect, bool printing) override
+  {
+    // Only those into another widget: the view's own frames would fill the
+    // list in every test.
+    if (target != this || get_paint_magnify_glass())
+      paints.append({get_paint_magnify_glass(), get_paint_magnify_glass_rect(), painter->worldTransform(),
+                     painter->hasClipping(), target, rect, printing});
+  }
   QRect get_selected_rect() const override { return selected; }
   bool is_rect_selection_enabled() const override { return rect_selection; }
   bool current_mode_supports_mouse_gesture(const QPoint&) override { return gestures; }
@@ -71,6 +93,17 @@ inline bool send_key(QWidget* widget, QEvent::Type type, int key,
   QKeyEvent event(type, key, modifiers);
   QCoreApplication::sendEvent(widget, &event);
   return event.isAccepted();
+}
+
+// Bitmap cursors made twice are not the same object: compare what they show.
+inline bool same_cursor(const QCursor& a, const QCursor& b)
+{
+  if (a.shape() != b.shape() || a.hotSpot() != b.hotSpot())
+    return false;
+  if (a.shape() != Qt::BitmapCursor)
+    return true;
+  return a.bitmap(Qt::ReturnByValue).toImage() == b.bitmap(Qt::ReturnByValue).toImage() &&
+         a.mask(Qt::ReturnByValue).toImage() == b.mask(Qt::ReturnByValue).toImage();
 }
 
 inline QRect corners(const QPoint& a, const QPoint& b)
