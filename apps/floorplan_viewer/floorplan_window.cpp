@@ -13,7 +13,6 @@
 #include <gen_undo_redo_mgr.h>
 
 #include <QAction>
-#include <QActionGroup>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
@@ -120,6 +119,8 @@ FLOORPLAN_WINDOW::FLOORPLAN_WINDOW(unsigned seed, int block_count, int shape_cou
   m_selection_label->setText(m_view->selection_text());
   statusBar()->addPermanentWidget(m_selection_label);
   m_zoom_label->setObjectName(QStringLiteral("zoom_status"));
+  m_zoom_label->setToolTip(QStringLiteral("Click to set the zoom"));
+  m_zoom_label->setCursor(Qt::PointingHandCursor);
   statusBar()->addPermanentWidget(m_zoom_label);
   QString tcl_version;
   gen_tcl().eval(QStringLiteral("info patchlevel"), &tcl_version);
@@ -558,41 +559,6 @@ void FLOORPLAN_WINDOW::build_menus()
   bar->addAction(print_action);
 }
 
-void FLOORPLAN_WINDOW::build_zoom_actions(QMenu* view_menu)
-{
-  // The three tools are exclusive, and none checked is the plan's own
-  // selection mode: a group that lets the checked one be unchecked.
-  auto* modes = new QActionGroup(this);
-  modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
-  m_zoom_area->insert_modes(modes);
-  // Shift+Ctrl with the left button pans while the keys are held; the mode
-  // the user was in comes back when one goes up.
-  QAction* pan = m_zoom_area->get_pan_tool_action();
-  connect(modes, &QActionGroup::triggered, this, [this, pan](QAction* action) {
-    if (action != pan)
-      m_mode_before_pan = action->isChecked() ? action : nullptr;
-  });
-  connect(m_zoom_area, &ORQ_ZOOM_SCROLL_AREA::pan_mode_off, this, [this, pan] {
-    if (m_mode_before_pan)
-      m_mode_before_pan->setChecked(true);
-    m_zoom_area->on_switch_mode(m_mode_before_pan ? m_mode_before_pan.data() : pan);
-  });
-  view_menu->addAction(m_zoom_area->get_zoom_tool_action());
-  view_menu->addAction(m_zoom_area->get_magnifying_action());
-  view_menu->addAction(m_zoom_area->get_pan_tool_action());
-  view_menu->addSeparator();
-  view_menu->addAction(m_zoom_area->get_zoom_fit_action());
-  view_menu->addAction(m_zoom_area->get_zoom_selection_action());
-  view_menu->addAction(m_zoom_area->get_zoom_in_action());
-  view_menu->addAction(m_zoom_area->get_zoom_out_action());
-  view_menu->addAction(m_zoom_area->get_set_zoom_action());
-  view_menu->addAction(m_zoom_area->get_birds_eye_view_action());
-  // The area zooms on the action itself; the flash follows, once the view
-  // has its new zoom.
-  connect(m_zoom_area->get_zoom_selection_action(), &QAction::triggered, this,
-          &FLOORPLAN_WINDOW::flash_selection);
-}
-
 ORQ_DIALOG* FLOORPLAN_WINDOW::make_options_dialog()
 {
   auto* dialog = new ORQ_DIALOG(this);
@@ -719,6 +685,15 @@ bool FLOORPLAN_WINDOW::eventFilter(QObject* watched, QEvent* event)
   // The area's new size is known once its own handling is done.
   if (watched == m_zoom_area && event->type() == QEvent::Resize && m_keep_fitted)
     QTimer::singleShot(0, this, &FLOORPLAN_WINDOW::fit_while_untouched);
+  if (watched == m_zoom_label && event->type() == QEvent::MouseButtonRelease) {
+    auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() == Qt::LeftButton && m_zoom_label->rect().contains(mouse->pos())) {
+      // Once the release is delivered: the dialog's loop must not run
+      // inside the label's own mouse handling.
+      QTimer::singleShot(0, this, &FLOORPLAN_WINDOW::open_set_zoom_dlg);
+      return true;
+    }
+  }
   if (event->type() == QEvent::Close && watched->objectName() == QLatin1String("floorplan_document")) {
     event->ignore();
     return true;

@@ -13,6 +13,7 @@ class ORQ_DOCK_WIDGET;
 class ORQ_MDI_AREA;
 class ORQ_ZOOM_SCROLL_AREA;
 class QAction;
+class QActionGroup;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
@@ -34,6 +35,8 @@ public:
   // What the status bar says is selected, and its zoom.
   QString selection_status() const;
   QString zoom_status() const;
+  // What the mouse does in the current mode, as the status bar says it.
+  QString mode_hint() const;
   FLOORPLAN_VIEW* view() const;
   ORQ_ZOOM_SCROLL_AREA* zoom_area() const;
   // Writes the whole drawing to a PDF file; false when it cannot.
@@ -51,6 +54,10 @@ public:
   void set_seed(unsigned seed);
 
 public slots:
+  // The zoom area's, for the suite's commands that reach a tool through
+  // its main window.
+  void set_zoom(float factor) override;
+  void open_set_zoom_dlg() override;
   void regenerate();
   // File > Print..., Print Preview... and Export PDF..., with their dialogs.
   void print();
@@ -80,6 +87,7 @@ private:
   QAction* add_panel_action(QMenu* menu, ORQ_ACTION_ENUM id, ORQ_DOCK_WIDGET* dock);
 
   void build_zoom_actions(QMenu* view_menu);
+  void show_mode_hint();
   void fill_block_list();
   void fit_while_untouched();
   // After View > Zoom Selection: the selection flashes where it now is.
@@ -87,6 +95,8 @@ private:
 
   ORQ_MDI_AREA* m_mdi;
   ORQ_ZOOM_SCROLL_AREA* m_zoom_area;
+  // The zoom, magnifying and pan tools; none checked is selection mode.
+  QActionGroup* m_modes = nullptr;
   // The mode a temporary pan interrupted; null for selection mode.
   QPointer<QAction> m_mode_before_pan;
   FLOORPLAN_VIEW* m_view;

@@ -1,6 +1,7 @@
 // The floor-plan viewer: the sample tool of the framework. Run it with
 // --screenshot FILE to render the main window to a PNG and exit, or with
 // --icons FILE to render a sheet of every icon of the catalogue.
+#include "floorplan_demo.h"
 #include "floorplan_view.h"
 #include "floorplan_window.h"
 #include "icon_sheet.h"
@@ -88,8 +89,19 @@ int main(int argc, char** argv)
   const QCommandLineOption default_layout(QStringLiteral("default-layout"),
                                           QStringLiteral("Start with the default arrangement of the panels, "
                                                          "whatever layout was saved."));
+  // For the pictures of the manual and the tests, not for users: the lens,
+  // the zoom drag or a gesture held still in the screenshot.
+  QCommandLineOption demo(
+      QStringLiteral("demo"),
+      QStringLiteral(
+          "With --screenshot: show an interaction in it, started with real mouse events: lens, "
+          "zoom-drag or gesture at X,Y (the next argument; pixels from the visible top-left of the "
+          "floor plan), or set-zoom with the per cent to type into the dialog that a click on the "
+          "zoom read-out opens."),
+      QStringLiteral("kind"));
+  demo.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions({screenshot, seed, blocks, shapes, options_shot, icons, trigger, hierarchy_rows, filter,
-                     dump, panel, default_layout, export_pdf, zoom, select_rect, rubber_band});
+                     dump, panel, default_layout, export_pdf, zoom, select_rect, rubber_band, demo});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -221,8 +233,22 @@ int main(int argc, char** argv)
         rc = 1;
       }
     }
+    QImage picture;
+    if (parser.isSet(demo)) {
+      const FLOORPLAN_DEMO shown =
+          run_floorplan_demo(window, parser.value(demo), parser.positionalArguments().value(0));
+      if (shown.error.isEmpty()) {
+        std::printf("floorplan_viewer: demo: %s\n", qPrintable(shown.report));
+      } else {
+        std::fprintf(stderr, "floorplan_viewer: --demo %s\n", qPrintable(shown.error));
+        rc = 1;
+      }
+      picture = shown.image;
+    }
+    if (picture.isNull())
+      picture = window.grab_with_floating_panels();
     const QString file = parser.value(screenshot);
-    if (!window.grab_with_floating_panels().save(file, "PNG")) {
+    if (!picture.save(file, "PNG")) {
       std::fprintf(stderr, "floorplan_viewer: cannot write %s\n", qPrintable(file));
       rc = 1;
     } else {
