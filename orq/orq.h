@@ -39,6 +39,7 @@
 #include "orq_tree_filter_model.h"
 #include "orq_tree_filter_proxy_model.h"
 #include "orq_tree_model.h"
+#include "orq_tree_view.h"
 #include "orq_view.h"
 #include "orq_zoom_drag_widget.h"
 #include "orq_zoom_scroll_area.h"

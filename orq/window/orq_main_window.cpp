@@ -6,6 +6,7 @@
 #include "orq_dock_widget_button_bar.h"
 #include "orq_require_p.h"
 #include "orq_safe_connect.h"
+#include "orq_tree_view.h"
 
 #include "gen_help.h"
 #include "gen_message_service.h"
@@ -141,8 +142,19 @@ void ORQ_MAIN_WINDOW::f1_help()
   if (auto* view = qobject_cast<QAbstractItemView*>(context->parentWidget()))
     if (view->viewport() == context)
       context = view;
-  // The nearest named widget says best what the user is looking at.
+  // Inside a report (its header, an open editor) the report is the subject,
+  // and a report without a name of its own is known by its settings key.
   QString topic;
+  for (QWidget* w = context; w && !qobject_cast<QMenu*>(context); w = w->parentWidget()) {
+    if (auto* tree = qobject_cast<ORQ_TREE_VIEW*>(w)) {
+      context = tree;
+      topic = tree->objectName();
+      if (topic.isEmpty())
+        topic = tree->column_visibility_registry_string();
+      break;
+    }
+  }
+  // The nearest named widget says best what the user is looking at.
   for (QWidget* w = context; w && topic.isEmpty(); w = w->parentWidget())
     topic = w->objectName();
   if (topic.isEmpty())
