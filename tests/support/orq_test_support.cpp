@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QStandardItem>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -144,4 +145,35 @@ QString orq_test_internal_error(const std::function<void()>& body)
   }
   gen_set_internal_error_handler(previous);
   return condition;
+}
+
+void orq_test_fill_tree(QStandardItem* root, const QString& text, int columns)
+{
+  QList<QStandardItem*> stack{root};
+  QStandardItem* last = nullptr;
+  QString name;
+  auto flush = [&] {
+    if (name.isEmpty())
+      return;
+    last = new QStandardItem(name);
+    QList<QStandardItem*> row{last};
+    for (int c = 1; c < columns; ++c)
+      row << new QStandardItem(name + QLatin1Char('.') + QString::number(c));
+    stack.last()->appendRow(row);
+    name.clear();
+  };
+  for (const QChar c : text.mid(1, text.size() - 2)) {
+    if (c == QLatin1Char('[')) {
+      flush();
+      stack.append(last);
+    } else if (c == QLatin1Char(']')) {
+      flush();
+      stack.removeLast();
+    } else if (c == QLatin1Char(' ')) {
+      flush();
+    } else {
+      name += c;
+    }
+  }
+  flush();
 }

@@ -1,8 +1,11 @@
 #pragma once
 // Shared pieces of every test binary: a private home and configuration for
 // the whole run, a strict message check, and the path of the helper tool.
+#include <gen_help.h>
+
 #include <QProcessEnvironment>
 #include <QString>
+#include <QStringList>
 #include <QtTest>
 
 #include <functional>
@@ -26,6 +29,23 @@ QString orq_test_internal_error(const std::function<void()>& body);
 // with a fresh home inside dir.
 QString orq_test_helper_path();
 QProcessEnvironment orq_test_child_environment(const QString& dir);
+
+class QStandardItem;
+
+// Fills root from a tree string, "[A[B C[D]] E]": the names in column 0,
+// "<name>.1", "<name>.2", ... in the columns after it, up to columns.
+void orq_test_fill_tree(QStandardItem* root, const QString& text, int columns);
+
+// Records what help is asked for instead of opening a browser.
+class ORQ_TEST_HELP_RECORDER : public GEN_HELP {
+public:
+  QStringList topics;
+  bool show_help(QWidget*, const QString& topic) override
+  {
+    topics << topic;
+    return true;
+  }
+};
 
 // How many rounds a randomised test runs: all of them in an ordinary build,
 // a few under the sanitizers, which track every allocation.

@@ -21,30 +21,7 @@ struct TREE {
 
   explicit TREE(const QString& text)
   {
-    QList<QStandardItem*> stack{model.invisibleRootItem()};
-    QStandardItem* last = nullptr;
-    QString name;
-    auto flush = [&] {
-      if (name.isEmpty())
-        return;
-      last = new QStandardItem(name);
-      stack.last()->appendRow({last, new QStandardItem(name + QStringLiteral(".1"))});
-      name.clear();
-    };
-    for (const QChar c : text.mid(1, text.size() - 2)) {
-      if (c == QLatin1Char('[')) {
-        flush();
-        stack.append(last);
-      } else if (c == QLatin1Char(']')) {
-        flush();
-        stack.removeLast();
-      } else if (c == QLatin1Char(' ')) {
-        flush();
-      } else {
-        name += c;
-      }
-    }
-    flush();
+    orq_test_fill_tree(model.invisibleRootItem(), text, 2);
   }
 
   QModelIndex at(const QString& name, int column = 0) const

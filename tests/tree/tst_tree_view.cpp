@@ -28,33 +28,7 @@ void fill(ORQ_TREE_MODEL& model, const QString& text, const QStringList& headers
 {
   model.clear();
   model.setHorizontalHeaderLabels(headers);
-  QList<QStandardItem*> stack{model.invisibleRootItem()};
-  QStandardItem* last = nullptr;
-  QString name;
-  auto flush = [&] {
-    if (name.isEmpty())
-      return;
-    last = new QStandardItem(name);
-    QList<QStandardItem*> row{last};
-    for (int c = 1; c < headers.size(); ++c)
-      row << new QStandardItem(name + QLatin1Char('.') + QString::number(c));
-    stack.last()->appendRow(row);
-    name.clear();
-  };
-  for (const QChar c : text.mid(1, text.size() - 2)) {
-    if (c == QLatin1Char('[')) {
-      flush();
-      stack.append(last);
-    } else if (c == QLatin1Char(']')) {
-      flush();
-      stack.removeLast();
-    } else if (c == QLatin1Char(' ')) {
-      flush();
-    } else {
-      name += c;
-    }
-  }
-  flush();
+  orq_test_fill_tree(model.invisibleRootItem(), text, headers.size());
 }
 
 const QStringList k_two_columns{QStringLiteral("Name"), QStringLiteral("Value")};
@@ -178,16 +152,6 @@ protected:
 
 private:
   std::size_t m_limit;
-};
-
-class HELP_RECORDER : public GEN_HELP {
-public:
-  QStringList topics;
-  bool show_help(QWidget*, const QString& topic) override
-  {
-    topics << topic;
-    return true;
-  }
 };
 
 const QString k_root = QStringLiteral("TreeViewColumns/");
@@ -744,7 +708,7 @@ private slots:
 
   void f1_asks_for_help_on_the_report()
   {
-    HELP_RECORDER help;
+    ORQ_TEST_HELP_RECORDER help;
     gen_set_help(&help);
     ORQ_MAIN_WINDOW window;
     ORQ_TREE_MODEL model;

@@ -13,17 +13,6 @@
 
 namespace {
 
-// Records what help is asked for instead of opening a browser.
-class HELP_RECORDER : public GEN_HELP {
-public:
-  QStringList topics;
-  bool show_help(QWidget*, const QString& topic) override
-  {
-    topics << topic;
-    return true;
-  }
-};
-
 } // namespace
 
 class TST_MAIN_WINDOW : public QObject {
@@ -106,7 +95,7 @@ private slots:
 
   void f1_asks_for_help_on_the_focused_widget()
   {
-    HELP_RECORDER help;
+    ORQ_TEST_HELP_RECORDER help;
     gen_set_help(&help);
     ORQ_MAIN_WINDOW window;
     auto* edit = new QLineEdit;
