@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -57,4 +58,72 @@ void fill_design_hierarchy(ORQ_TREE_MODEL& model, int rows, unsigned seed)
   }
   model.setHorizontalHeaderLabels({QStringLiteral("Instance"), QStringLiteral("Cell")});
   model.appendRow(top);
+}
+
+namespace {
+
+// clang-format off
+const struct {
+  const char* cell;
+  int area; // hundredths of a square micrometre, so sums stay exact
+} cell_areas[] = {
+  {"NAND2X1",   106}, {"NOR2X1",  106}, {"INVX2",    80}, {"DFFRX2",   530},
+  {"AOI21X1",   133}, {"OAI22X1", 160}, {"MUX2X1",  240}, {"XOR2X1",   210},
+  {"BUFX4",     130}, {"SDFFX1",  610}, {"AND3X1",  160}, {"CLKBUFX8", 270},
+  {"LATCHX1",   350}, {"FILL4",    53},
+};
+// clang-format on
+
+QString area_text(qint64 hundredths)
+{
+  return QStringLiteral("%1.%2").arg(hundredths / 100).arg(hundredths % 100, 2, 10, QLatin1Char('0'));
+}
+
+// Depth-first without recursion: a million rows would be a million frames.
+qint64 add_areas_below(QStandardItem* top)
+{
+  struct FRAME {
+    QStandardItem* item;
+    int next_child;
+    qint64 sum;
+  };
+  std::vector<FRAME> stack{{top, 0, 0}};
+  qint64 total = 0;
+  while (!stack.empty()) {
+    FRAME& frame = stack.back();
+    if (frame.next_child < frame.item->rowCount()) {
+      QStandardItem* child = frame.item->child(frame.next_child++, 0);
+      stack.push_back({child, 0, 0});
+      continue;
+    }
+    QStandardItem* item = frame.item;
+    QStandardItem* parent = item->parent() ? item->parent() : item->model()->invisibleRootItem();
+    const int row = item->row();
+    const qint64 area = item->rowCount() > 0 ? frame.sum : design_cell_area(parent->child(row, 1)->text());
+    stack.pop_back();
+    parent->setChild(row, 2, new QStandardItem(area_text(area)));
+    if (stack.empty())
+      total = area;
+    else
+      stack.back().sum += area;
+  }
+  return total;
+}
+
+} // namespace
+
+int design_cell_area(const QString& cell)
+{
+  for (const auto& row : cell_areas)
+    if (cell == QLatin1String(row.cell))
+      return row.area;
+  return 0;
+}
+
+void add_design_areas(ORQ_TREE_MODEL& model)
+{
+  QStandardItem* root = model.invisibleRootItem();
+  for (int row = 0; row < root->rowCount(); ++row)
+    add_areas_below(root->child(row, 0));
+  model.setHorizontalHeaderItem(2, new QStandardItem(QStringLiteral("Area")));
 }

@@ -1,5 +1,7 @@
 #include "floorplan_demo.h"
 
+#include "floorplan_demo_p.h"
+
 #include "floorplan_view.h"
 #include "floorplan_window.h"
 
@@ -19,13 +21,6 @@ namespace {
 // How the zoom drag and the gesture move from the press, in pixels.
 const QPoint k_zoom_drag_move(0, -120);
 const QPoint k_gesture_move(-150, -150);
-
-void send_mouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt::MouseButton button,
-                Qt::MouseButtons buttons)
-{
-  QMouseEvent event(type, pos, widget->mapToGlobal(pos), button, buttons, Qt::NoModifier);
-  QCoreApplication::sendEvent(widget, &event);
-}
 
 // The mode as the tool bar sets it: that tool checked, or none of them for
 // selection mode. Triggered, not just checked, so the window follows too.
@@ -73,13 +68,13 @@ void press_move_release(FLOORPLAN_VIEW* view, const QPoint& point, Qt::MouseButt
   QObject guard;
   QTimer::singleShot(0, &guard, [&] {
     if (!move.isNull()) {
-      send_mouse(view, QEvent::MouseMove, point + move / 2, Qt::NoButton, button);
-      send_mouse(view, QEvent::MouseMove, point + move, Qt::NoButton, button);
+      demo_send_mouse(view, QEvent::MouseMove, point + move / 2, Qt::NoButton, button);
+      demo_send_mouse(view, QEvent::MouseMove, point + move, Qt::NoButton, button);
     }
     read();
-    send_mouse(view, QEvent::MouseButtonRelease, point + move, button, Qt::NoButton);
+    demo_send_mouse(view, QEvent::MouseButtonRelease, point + move, button, Qt::NoButton);
   });
-  send_mouse(view, QEvent::MouseButtonPress, point, button, button);
+  demo_send_mouse(view, QEvent::MouseButtonPress, point, button, button);
 }
 
 FLOORPLAN_DEMO set_zoom_by_the_read_out(FLOORPLAN_WINDOW& window, const QString& typed)
@@ -111,8 +106,8 @@ FLOORPLAN_DEMO set_zoom_by_the_read_out(FLOORPLAN_WINDOW& window, const QString&
     done = true;
   };
   const QPoint middle = read_out->rect().center();
-  send_mouse(read_out, QEvent::MouseButtonPress, middle, Qt::LeftButton, Qt::LeftButton);
-  send_mouse(read_out, QEvent::MouseButtonRelease, middle, Qt::LeftButton, Qt::NoButton);
+  demo_send_mouse(read_out, QEvent::MouseButtonPress, middle, Qt::LeftButton, Qt::LeftButton);
+  demo_send_mouse(read_out, QEvent::MouseButtonRelease, middle, Qt::LeftButton, Qt::NoButton);
   QTimer::singleShot(0, &guard, answer);
   while (!done)
     QCoreApplication::processEvents();
@@ -130,6 +125,9 @@ FLOORPLAN_DEMO run_floorplan_demo(FLOORPLAN_WINDOW& window, const QString& kind,
 {
   if (kind == QLatin1String("set-zoom"))
     return set_zoom_by_the_read_out(window, argument);
+  if (kind == QLatin1String("hierarchy") || kind == QLatin1String("export-hierarchy") ||
+      kind == QLatin1String("variants"))
+    return run_report_demo(window, kind, argument);
 
   FLOORPLAN_DEMO demo;
   QPoint visible;
@@ -179,7 +177,9 @@ FLOORPLAN_DEMO run_floorplan_demo(FLOORPLAN_WINDOW& window, const QString& kind,
                         .arg(overlay->get_label()->text());
     });
   } else {
-    demo.error = QStringLiteral("unknown kind \"%1\" (lens, zoom-drag, gesture or set-zoom)").arg(kind);
+    demo.error = QStringLiteral("unknown kind \"%1\" (lens, zoom-drag, gesture, set-zoom, hierarchy, "
+                                "export-hierarchy or variants)")
+                     .arg(kind);
     return demo;
   }
   if (demo.image.isNull())

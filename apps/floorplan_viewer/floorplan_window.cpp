@@ -441,6 +441,7 @@ void FLOORPLAN_WINDOW::build_menus()
   export_pdf->setStatusTip(QStringLiteral("Writes the whole floor plan to a PDF file"));
   file->addAction(export_pdf);
   connect(export_pdf, &QAction::triggered, this, &FLOORPLAN_WINDOW::export_pdf_dialog);
+  build_report_actions(file);
   file->addSeparator();
   QAction* print_action = add_standard_action(file, ORQ_PRINT_ACTION);
   connect(print_action, &QAction::triggered, this, &FLOORPLAN_WINDOW::print);

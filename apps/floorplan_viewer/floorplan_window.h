@@ -43,6 +43,9 @@ public:
   bool export_pdf(const QString& file_name);
   // The hierarchy panel of the panel library, or null.
   QWidget* hierarchy_panel() const;
+  // Writes the hierarchy as File > Export Hierarchy... does; why it could
+  // not, or an empty string.
+  QString export_hierarchy(const QString& file_name);
   // The panels by object name or title, or null.
   ORQ_DOCK_WIDGET* panel(const QString& name) const;
   QList<ORQ_DOCK_WIDGET*> panels() const;
@@ -63,6 +66,8 @@ public slots:
   void print();
   void print_preview();
   void export_pdf_dialog();
+  // File > Export Hierarchy...: asks for a file, tells what went wrong.
+  void export_hierarchy_dialog();
   // View > Reset Layout: panels docked, pinned and open where they started.
   void reset_layout();
   // Tools > Options: the theme colours and fonts. Returns the dialog result.
@@ -87,6 +92,7 @@ private:
   QAction* add_panel_action(QMenu* menu, ORQ_ACTION_ENUM id, ORQ_DOCK_WIDGET* dock);
 
   void build_zoom_actions(QMenu* view_menu);
+  void build_report_actions(QMenu* file_menu);
   void show_mode_hint();
   void fill_block_list();
   void fit_while_untouched();

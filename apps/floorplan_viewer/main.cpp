@@ -80,6 +80,16 @@ int main(int argc, char** argv)
   const QCommandLineOption dump(QStringLiteral("dump-hierarchy"),
                                 QStringLiteral("Write the generated hierarchy, one instance and cell a line."),
                                 QStringLiteral("file"));
+  const QCommandLineOption export_hierarchy(
+      QStringLiteral("export-hierarchy"),
+      QStringLiteral("Write the Hierarchy panel's rows as File > Export Hierarchy does, then go on."),
+      QStringLiteral("file"));
+  const QCommandLineOption hierarchy_column(
+      QStringLiteral("hierarchy-column"),
+      QStringLiteral("Change a column of the Hierarchy panel as the user would, before the screenshot: "
+                     "hide:NAME or show:NAME through the header's menu, width:NAME=PIXELS by dragging the "
+                     "header; may be repeated."),
+      QStringLiteral("change"));
   const QCommandLineOption panel(
       QStringLiteral("panel"),
       QStringLiteral("Change a panel as the user would, before the screenshot: unpin, pin, slide-out, float, "
@@ -97,11 +107,13 @@ int main(int argc, char** argv)
           "With --screenshot: show an interaction in it, started with real mouse events: lens, "
           "zoom-drag or gesture at X,Y (the next argument; pixels from the visible top-left of the "
           "floor plan), or set-zoom with the per cent to type into the dialog that a click on the "
-          "zoom read-out opens."),
+          "zoom read-out opens; hierarchy before, filtered or cleared: a place in the Hierarchy panel, "
+          "then a filter typed, then cleared; export-hierarchy FILE through its dialog."),
       QStringLiteral("kind"));
   demo.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions({screenshot, seed, blocks, shapes, options_shot, icons, trigger, hierarchy_rows, filter,
-                     dump, panel, default_layout, export_pdf, zoom, select_rect, rubber_band, demo});
+                     dump, panel, default_layout, export_pdf, zoom, select_rect, rubber_band, demo,
+                     export_hierarchy, hierarchy_column});
   parser.process(app);
 
   if (parser.isSet(icons)) {
@@ -139,6 +151,26 @@ int main(int argc, char** argv)
     const int colon = change.indexOf(QLatin1Char(':'));
     if (colon < 0 || !window.change_panel(change.left(colon), change.mid(colon + 1))) {
       std::fprintf(stderr, "floorplan_viewer: cannot %s\n", qPrintable(change));
+      rc = 1;
+    }
+  }
+
+  for (const QString& change : parser.values(hierarchy_column)) {
+    QCoreApplication::processEvents();
+    const QString problem = change_hierarchy_column(window, change);
+    if (!problem.isEmpty()) {
+      std::fprintf(stderr, "floorplan_viewer: --hierarchy-column %s: %s\n", qPrintable(change),
+                   qPrintable(problem));
+      rc = 1;
+    }
+  }
+  if (parser.isSet(export_hierarchy)) {
+    const QString file = parser.value(export_hierarchy);
+    const QString problem = window.export_hierarchy(file);
+    if (problem.isEmpty()) {
+      std::printf("floorplan_viewer: hierarchy written to %s\n", qPrintable(file));
+    } else {
+      std::fprintf(stderr, "floorplan_viewer: %s\n", qPrintable(problem));
       rc = 1;
     }
   }
@@ -210,6 +242,8 @@ int main(int argc, char** argv)
       QString text;
       QMetaObject::invokeMethod(hierarchy, "status_text", Q_RETURN_ARG(QString, text));
       std::printf("floorplan_viewer: hierarchy: %s\n", qPrintable(text));
+      QMetaObject::invokeMethod(hierarchy, "column_text", Q_RETURN_ARG(QString, text));
+      std::printf("floorplan_viewer: hierarchy columns: %s\n", qPrintable(text));
     }
     for (ORQ_DOCK_WIDGET* dock : window.panels())
       std::printf("floorplan_viewer: panel: %s %s%s\n", qPrintable(dock->windowTitle()),
