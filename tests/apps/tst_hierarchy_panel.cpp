@@ -5,6 +5,7 @@
 #include "orq_test_support.h"
 
 #include "design_hierarchy.h"
+#include "hierarchy_expectations.h"
 #include "hierarchy_panel.h"
 
 #include <gen_settings.h>
@@ -18,7 +19,6 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -131,46 +131,6 @@ QString make_a_place(PANEL& p)
   click_row(p.view, child_path(p.shown, module, 300));
   click_row(p.view, child_path(p.shown, module, 302), Qt::ControlModifier);
   return module;
-}
-
-// The expected dump: every row the rule keeps, in tree order, "|" and a
-// hyphen per level, the shown columns' texts each followed by a tab.
-QByteArray expected_dump(const ORQ_TREE_MODEL& model, const QString& typed, const QList<int>& columns)
-{
-  struct EXPRESSIONS : ORQ_TREE_FILTER_PROXY_MODEL {
-    using ORQ_TREE_FILTER_PROXY_MODEL::process_keyword_expression;
-  } parser;
-  const QRegularExpression expression = parser.process_keyword_expression(typed.trimmed());
-  const bool filtering = !expression.pattern().isEmpty();
-  auto matches = [&](const QStandardItem* row) {
-    const QStandardItem* parent = row->parent() ? row->parent() : row->model()->invisibleRootItem();
-    const QString name = parent->child(row->row(), 0)->text();
-    const QString joined = name + QLatin1Char(' ') + parent->child(row->row(), 1)->text() + QLatin1Char(' ');
-    return expression.match(name).hasMatch() || expression.match(joined).hasMatch();
-  };
-  std::function<bool(const QStandardItem*)> below = [&](const QStandardItem* row) {
-    for (int r = 0; r < row->rowCount(); ++r)
-      if (matches(row->child(r, 0)) || below(row->child(r, 0)))
-        return true;
-    return false;
-  };
-  QByteArray text;
-  std::function<void(const QStandardItem*, int, bool)> write = [&](const QStandardItem* parent, int level,
-                                                                   bool ancestor_matches) {
-    for (int r = 0; r < parent->rowCount(); ++r) {
-      const QStandardItem* row = parent->child(r, 0);
-      const bool self = filtering && matches(row);
-      if (filtering && !self && !ancestor_matches && !below(row))
-        continue;
-      text += '|' + QByteArray(level, '-');
-      for (int c : columns)
-        text += parent->child(r, c)->text().toLocal8Bit() + '\t';
-      text += '\n';
-      write(row, level + 1, ancestor_matches || self);
-    }
-  };
-  write(model.invisibleRootItem(), 1, false);
-  return text;
 }
 
 QByteArray read_all(const QString& file_name)
@@ -439,7 +399,7 @@ private slots:
     QTemporaryDir dir;
     const QString file = dir.filePath(QStringLiteral("hierarchy.txt"));
     QCOMPARE(p.panel->export_hierarchy(file), QString());
-    const QByteArray expected = expected_dump(*p.panel->model(), typed, columns);
+    const QByteArray expected = hierarchy_expected_dump(*p.panel->model(), typed, columns);
     const QByteArray written = read_all(file);
     QCOMPARE(written.count('\n'), expected.count('\n'));
     QCOMPARE(written, expected);
@@ -460,7 +420,7 @@ private slots:
       old.write(QByteArray(200000, 'x'));
     }
     QCOMPARE(p.panel->export_hierarchy(file), QString());
-    QCOMPARE(read_all(file), expected_dump(*p.panel->model(), QString(), {0, 1, 2}));
+    QCOMPARE(read_all(file), hierarchy_expected_dump(*p.panel->model(), QString(), {0, 1, 2}));
   }
 
   void a_failed_export_says_why_and_keeps_what_was_there_data()
@@ -492,7 +452,7 @@ private slots:
     QVERIFY(QFileInfo(dir.filePath(QStringLiteral("taken/inside"))).isDir());
     const QString good = dir.filePath(QStringLiteral("good.txt"));
     QCOMPARE(p.panel->export_hierarchy(good), QString());
-    QCOMPARE(read_all(good), expected_dump(*p.panel->model(), QString(), {0, 1, 2}));
+    QCOMPARE(read_all(good), hierarchy_expected_dump(*p.panel->model(), QString(), {0, 1, 2}));
   }
 
   void column_changes_on_the_header_are_kept_for_the_next_panel()
