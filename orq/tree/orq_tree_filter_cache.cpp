@@ -236,6 +236,7 @@ void ORQ_TREE_FILTER_CACHE::drop()
   std::vector<QModelIndex>().swap(m_block_indexes);
   std::vector<std::uint32_t>().swap(m_base);
   std::vector<std::uint32_t>().swap(m_owner_slot);
+  std::vector<std::uint32_t>().swap(m_owner_block);
   m_blocks.reset(0);
   std::vector<std::uint8_t>().swap(m_flags);
   m_history.clear();
@@ -259,14 +260,15 @@ void ORQ_TREE_FILTER_CACHE::build_structure()
   drop();
   std::uint32_t slot_total = 0;
   std::vector<std::pair<quintptr, int>> keys; // per block after the first
-  auto add_block = [&](std::uint32_t owner_slot) {
+  auto add_block = [&](std::uint32_t owner_slot, std::uint32_t owner_block) {
     m_base.push_back(slot_total);
     m_owner_slot.push_back(owner_slot);
+    m_owner_block.push_back(owner_block);
   };
   if (m_items) {
     const auto* model = static_cast<const QStandardItemModel*>(m_model);
     m_block_items.push_back(model->invisibleRootItem());
-    add_block(NONE);
+    add_block(NONE, NONE);
     for (std::uint32_t block = 0; block < m_block_items.size(); ++block) {
       QStandardItem* parent = m_block_items[block];
       m_base[block] = slot_total;
@@ -276,14 +278,14 @@ void ORQ_TREE_FILTER_CACHE::build_structure()
         if (child && child->rowCount() > 0) {
           m_block_items.push_back(child);
           keys.emplace_back(quintptr(parent), row);
-          add_block(slot_total + std::uint32_t(row));
+          add_block(slot_total + std::uint32_t(row), block);
         }
       }
       slot_total += std::uint32_t(rows);
     }
   } else {
     m_block_indexes.emplace_back();
-    add_block(NONE);
+    add_block(NONE, NONE);
     for (std::uint32_t block = 0; block < m_block_indexes.size(); ++block) {
       const QModelIndex parent = m_block_indexes[block];
       m_base[block] = slot_total;
@@ -293,7 +295,7 @@ void ORQ_TREE_FILTER_CACHE::build_structure()
         if (child.isValid() && m_model->rowCount(child) > 0) {
           m_block_indexes.push_back(child);
           keys.emplace_back(child.internalId(), row);
-          add_block(slot_total + std::uint32_t(row));
+          add_block(slot_total + std::uint32_t(row), block);
         }
       }
       slot_total += std::uint32_t(rows);
@@ -440,10 +442,58 @@ void ORQ_TREE_FILTER_CACHE::compute(const ORQ_FILTER_SETTINGS& settings)
   m_has_answers = true;
 }
 
+std::vector<std::uint64_t> ORQ_TREE_FILTER_CACHE::accepted_bits(bool include_child, bool include_root) const
+{
+  const std::size_t slot_total = m_flags.size();
+  std::vector<std::uint64_t> bits((slot_total + 63) / 64, 0);
+  for (std::size_t slot = 0; slot < slot_total; ++slot)
+    if (accepted(std::uint32_t(slot), include_child, include_root))
+      bits[slot / 64] |= std::uint64_t(1) << (slot % 64);
+  return bits;
+}
+
+std::size_t ORQ_TREE_FILTER_CACHE::changed_runs(const std::vector<std::uint64_t>& before, bool include_child,
+                                                bool include_root) const
+{
+  std::size_t runs = 0;
+  const std::uint32_t blocks = std::uint32_t(m_base.size() - 1);
+  for (std::uint32_t block = 0; block < blocks; ++block) {
+    bool in_run = false;
+    for (std::uint32_t slot = m_base[block]; slot < m_base[block + 1]; ++slot) {
+      const bool was = before[slot / 64] >> (slot % 64) & 1u;
+      const bool changed = was != accepted(slot, include_child, include_root);
+      runs += changed && !in_run;
+      in_run = changed;
+    }
+  }
+  return runs;
+}
+
+std::vector<std::uint8_t> ORQ_TREE_FILTER_CACHE::shown_blocks(bool include_child, bool include_root) const
+{
+  const std::size_t blocks = m_base.empty() ? 0 : m_base.size() - 1;
+  std::vector<std::uint8_t> shown(blocks, 0);
+  if (blocks)
+    shown[0] = 1;
+  // Breadth-first numbering puts every owner's block before its children's.
+  for (std::size_t block = 1; block < blocks; ++block)
+    shown[block] = shown[m_owner_block[block]] && accepted(m_owner_slot[block], include_child, include_root);
+  return shown;
+}
+
+bool ORQ_TREE_FILTER_CACHE::shown(const QModelIndex& index, const std::vector<std::uint8_t>& shown_blocks,
+                                  bool include_child, bool include_root) const
+{
+  const std::uint32_t block = block_of(index.parent());
+  if (block == NONE || index.row() < 0 || std::uint32_t(index.row()) >= block_size(block))
+    return true;
+  return shown_blocks[block] && accepted(slot(block, index.row()), include_child, include_root);
+}
+
 std::size_t ORQ_TREE_FILTER_CACHE::memory_bytes() const
 {
   std::size_t bytes = m_flags.capacity() + m_blocks.memory_bytes() +
-                      (m_base.capacity() + m_owner_slot.capacity()) * 4 +
+                      (m_base.capacity() + m_owner_slot.capacity() + m_owner_block.capacity()) * 4 +
                       m_block_items.capacity() * sizeof(QStandardItem*) +
                       m_block_indexes.capacity() * sizeof(QModelIndex);
   for (const HISTORY& entry : m_history)

@@ -87,6 +87,26 @@ public:
   std::uint8_t flags(std::uint32_t slot) const { return m_flags[slot]; }
   std::size_t slot_count() const { return m_flags.size(); }
 
+  // Whether a row is kept under the switches, by its slot.
+  bool accepted(std::uint32_t slot, bool include_child, bool include_root) const
+  {
+    const std::uint8_t f = m_flags[slot];
+    return (f & (SELF | BELOW)) || (include_child && (f & ABOVE)) || (include_root && slot < m_base[1]);
+  }
+  // One bit per slot: accepted() of every row.
+  std::vector<std::uint64_t> accepted_bits(bool include_child, bool include_root) const;
+  // How many runs of neighbouring rows are kept now and were not in before,
+  // or the other way round: what an in-place re-filter would announce.
+  std::size_t changed_runs(const std::vector<std::uint64_t>& before, bool include_child,
+                           bool include_root) const;
+  // Per block: whether its rows can be shown, that is whether its owner and
+  // every row above that are kept.
+  std::vector<std::uint8_t> shown_blocks(bool include_child, bool include_root) const;
+  // Whether the source row of index is shown; true when the structure does
+  // not know its parent.
+  bool shown(const QModelIndex& index, const std::vector<std::uint8_t>& shown_blocks, bool include_child,
+             bool include_root) const;
+
   std::size_t memory_bytes() const;
 
 private:
@@ -115,6 +135,7 @@ private:
   std::vector<QModelIndex> m_block_indexes;
   std::vector<std::uint32_t> m_base; // one more than blocks: the end
   std::vector<std::uint32_t> m_owner_slot;
+  std::vector<std::uint32_t> m_owner_block;
   // From (parent's internal id, parent's row) to its block.
   ORQ_INDEX_KEY_TABLE m_blocks;
 

@@ -8,16 +8,20 @@
 //
 // Answers are worked out for the whole source tree once per expression and
 // kept until the source changes, so a keystroke costs one pass over the rows
-// rather than a subtree scan per row. On a large tree whose views hold many
-// persistent indexes (expanded rows), a re-filter first resets the views;
-// tools expand what they want shown on filter_done and filter_cancel.
+// rather than a subtree scan per row. A keystroke that shows or hides many
+// runs of rows of a large tree is announced as one layout change instead of
+// a removal or insertion per run; either way every persistent index (a
+// view's expanded rows, its selection, a tool's own) whose row stays keeps
+// it, and the rows kept and the search count are those of the rule itself.
 #include "orq_export.h"
 
 #include <QList>
+#include <QMetaObject>
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
 
 #include <memory>
+#include <vector>
 
 class ORQ_TREE_FILTER_MODEL;
 class ORQ_TREE_FILTER_CACHE;
@@ -63,6 +67,9 @@ protected:
   bool filter_accepts_row_itself(int source_row, const QModelIndex& source_parent) const;
   bool children_is_accepted(int source_row, const QModelIndex& source_parent) const;
   bool filterAcceptsRow(int source_row, const QModelIndex& source_parent) const override;
+  // Hides QSortFilterProxyModel's: the kept answers go with what a subclass
+  // changed in its own rule.
+  void invalidateFilter();
 
   bool include_child;
   bool include_invisible_root_child;
@@ -72,9 +79,27 @@ private:
   bool matches_joined_text(int source_row, const QModelIndex& source_parent,
                            const QRegularExpression& expression) const;
   bool accepts_by_rule(int source_row, const QModelIndex& source_parent) const;
+  bool answers_usable() const;
   void refilter(const QRegularExpression& expression);
+  void refilter_as_layout_change(const QRegularExpression& expression);
   void drop_kept_answers();
+  void watch(QAbstractItemModel* source_model);
 
   std::unique_ptr<ORQ_TREE_FILTER_CACHE> m_cache;
-  bool m_resetting = false;
+  std::vector<QMetaObject::Connection> m_connections;
+  // Between a source's announcement of a change and its report of it the
+  // source is half-changed: nothing is worked out from it then.
+  bool m_source_changing = false;
+  // Set while a layout change maps rows with answers for an expression the
+  // base class has not been given yet.
+  bool m_switching = false;
+  // Set while the base class asks again about rows already counted.
+  bool m_quiet = false;
+  // Rows the rule has looked at since the answers were last worked out;
+  // past the tree's size, working them out again is cheaper.
+  mutable std::size_t m_rule_work = 0;
+  mutable std::size_t m_tree_rows = 0;
+  // The switches the base class's mappings were last filtered with.
+  bool m_filtered_child = true;
+  bool m_filtered_root = false;
 };

@@ -299,20 +299,23 @@ private slots:
     QCOMPARE(kept_tree(*filtered.proxy), QStringLiteral("top{y}"));
   }
 
-  // A small tree keeps its views as they are; a large one with an expanded
-  // view is reset first, and shows the same rows.
-  void large_expanded_views_are_reset_data()
+  // A keystroke never loses the user's place: a row that stays keeps its
+  // persistent indexes (a tool's own, the view's selection, current row and
+  // expansion), whether the rows that go are removed one run at a time or,
+  // on a large tree, in one layout change. Nothing is reset, and a keystroke
+  // that changes no row announces nothing.
+  void keystrokes_keep_the_users_place_data()
   {
     QTest::addColumn<int>("modules");
-    QTest::addColumn<bool>("reset");
-    QTest::newRow("small tree, views kept") << 8 << false;
-    QTest::newRow("large tree, views reset") << 40 << true;
+    QTest::addColumn<bool>("layout_change");
+    QTest::newRow("small tree, rows removed in place") << 8 << false;
+    QTest::newRow("6,710 rows, one layout change") << 110 << true;
   }
 
-  void large_expanded_views_are_reset()
+  void keystrokes_keep_the_users_place()
   {
     QFETCH(int, modules);
-    QFETCH(bool, reset);
+    QFETCH(bool, layout_change);
     QObject owner; // the proxy becomes a child of the model's parent
     ORQ_TREE_FILTER_MODEL& model = *new ORQ_TREE_FILTER_MODEL(&owner);
     for (int m = 0; m < modules; ++m) {
@@ -322,19 +325,86 @@ private slots:
       model.appendRow(module);
     }
     model.create_filter_model(0);
+    model.insert_filter_column(0); // search use then hides nothing
     ORQ_TREE_FILTER_PROXY_MODEL* proxy = model.get_filter_model();
     QAbstractItemModelTester tester(proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QTreeView view;
     view.setModel(proxy);
+    view.resize(300, 400);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
     view.expandAll();
+    auto instance = [&](int m, int i) { return proxy->index(i, 0, proxy->index(m, 0)); };
+    view.selectionModel()->setCurrentIndex(instance(3, 14), QItemSelectionModel::ClearAndSelect);
+    view.selectionModel()->select(instance(5, 7), QItemSelectionModel::Select);
+    const QPersistentModelIndex tool_index = instance(6, 21);
+    const QPersistentModelIndex going = instance(6, 22);
     QSignalSpy resets(proxy, &QAbstractItemModel::modelReset);
+    QSignalSpy layouts(proxy, &QAbstractItemModel::layoutChanged);
+    QSignalSpy removals(proxy, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy insertions(proxy, &QAbstractItemModel::rowsInserted);
+
     proxy->start_filter(QStringLiteral("dff"), false, true);
-    QCOMPARE(resets.count(), reset ? 1 : 0);
-    QCOMPARE(view.isExpanded(proxy->index(0, 0)), !reset);
-    view.expandAll();
-    QCOMPARE(proxy->rowCount(), modules);
+    QCOMPARE(resets.count(), 0);
+    QCOMPARE(layouts.count(), layout_change ? 1 : 0);
+    QCOMPARE(removals.isEmpty(), layout_change);
     QCOMPARE(proxy->rowCount(proxy->index(modules - 1, 0)), 9);
-    QCOMPARE(proxy->index(0, 0, proxy->index(0, 0)).data().toString(), QStringLiteral("i_dff_0"));
+    QVERIFY(tool_index.isValid());
+    QCOMPARE(tool_index.data().toString(), QStringLiteral("i_dff_21"));
+    QCOMPARE(tool_index.parent().data().toString(), QStringLiteral("u_mod_6"));
+    QCOMPARE(tool_index.row(), 3);
+    QVERIFY(!going.isValid());
+    QCOMPARE(view.currentIndex().data().toString(), QStringLiteral("i_dff_14"));
+    QCOMPARE(view.currentIndex().parent().data().toString(), QStringLiteral("u_mod_3"));
+    QStringList selected;
+    for (const QModelIndex& index : view.selectionModel()->selectedRows())
+      selected << index.parent().data().toString() + QLatin1Char('/') + index.data().toString();
+    selected.sort();
+    QCOMPARE(selected, QStringList({QStringLiteral("u_mod_3/i_dff_14"), QStringLiteral("u_mod_5/i_dff_7")}));
+    for (int m = 0; m < modules; ++m)
+      QVERIFY2(view.isExpanded(proxy->index(m, 0)), qPrintable(QString::number(m)));
+    // What the view lays out is the filtered tree, expanded as before.
+    view.scrollTo(tool_index);
+    QCOMPARE(view.indexAt(view.visualRect(tool_index).center()), QModelIndex(tool_index));
+
+    // A trailing blank, and search use over an unfiltered tree, change no row.
+    const int layouts_before = layouts.count();
+    const int removals_before = removals.count();
+    proxy->start_filter(QStringLiteral("dff "), false, true);
+    proxy->start_filter(QStringLiteral(" dff"), false, true);
+    QCOMPARE(layouts.count(), layouts_before);
+    QCOMPARE(removals.count(), removals_before);
+    proxy->start_filter(QString(), false, true);
+    const int layouts_unfiltered = layouts.count();
+    const int insertions_unfiltered = insertions.count();
+    proxy->start_filter(QStringLiteral("nand"), false, false);
+    QCOMPARE(layouts.count(), layouts_unfiltered);
+    QCOMPARE(insertions.count(), insertions_unfiltered);
+    QCOMPARE(resets.count(), 0);
+    QCOMPARE(proxy->rowCount(proxy->index(0, 0)), 60);
+    QVERIFY(tool_index.isValid());
+    QCOMPARE(tool_index.row(), 21);
+    QCOMPARE(view.currentIndex().data().toString(), QStringLiteral("i_dff_14"));
+    QVERIFY(view.isExpanded(proxy->index(3, 0)));
+  }
+
+  // A second call with the same model must leave the base class's own
+  // handling of the model's end in place.
+  void source_set_twice_then_destroyed()
+  {
+    auto* model = new QStandardItemModel;
+    int at = 0;
+    build(model->invisibleRootItem(), QStringLiteral("a{b;c};d"), at);
+    ORQ_TREE_FILTER_PROXY_MODEL proxy;
+    proxy.setSourceModel(model);
+    proxy.setSourceModel(model);
+    proxy.start_filter(QStringLiteral("c"), false, true);
+    QCOMPARE(kept_tree(proxy), QStringLiteral("a{c}"));
+    delete model;
+    QVERIFY(!proxy.sourceModel());
+    QCOMPARE(proxy.rowCount(), 0);
+    proxy.start_filter(QStringLiteral("d"), false, true);
+    QCOMPARE(proxy.rowCount(), 0);
   }
 
   // The fast matcher stands in for QRegularExpression::match: random inputs
