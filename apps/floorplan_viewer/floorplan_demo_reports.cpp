@@ -154,7 +154,7 @@ QString make_a_place(const HIERARCHY& hierarchy, QString* problem)
     return QString();
   }
   const QModelIndex leaf = model->index(std::min(12, leaves - 1), 0, module);
-  view->scrollTo(leaf, QAbstractItemView::PositionAtCenter);
+  view->scrollTo(leaf);
   demo_click(view->viewport(), view->visualRect(leaf).center());
   if (view->currentIndex() != leaf) {
     *problem = QStringLiteral("a click did not pick %1").arg(leaf.data().toString());

@@ -208,7 +208,7 @@ void HIERARCHY_PANEL::keep_user_collapsed()
 QSize HIERARCHY_PANEL::sizeHint() const
 {
   // Room for the three columns of a module row at their natural widths.
-  return QSize(440, 600);
+  return QSize(460, 600);
 }
 
 bool HIERARCHY_PANEL::dump(const QString& file_name) const
