@@ -38,6 +38,8 @@
 #include "orq_tool_bar.h"
 #include "orq_tree_filter_model.h"
 #include "orq_tree_filter_proxy_model.h"
+#include "orq_tree_item_delegate.h"
+#include "orq_tree_item_radio_button_delegate.h"
 #include "orq_tree_model.h"
 #include "orq_tree_view.h"
 #include "orq_view.h"

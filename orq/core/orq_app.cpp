@@ -15,6 +15,7 @@
 #include "gen_tcl.h"
 #include "gen_undo_redo_mgr.h"
 
+#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -106,6 +107,13 @@ char** ORQ_APP::copy_argv_for_qt(int argc, const char** argv)
 ORQ_APP::ORQ_APP(int& argc, char** argv)
     : QApplication(argc, argv)
 {
+  // copy_argv_for_qt sets the style before there is an application to be its
+  // parent, and Qt deletes a replaced style only when the application is its
+  // parent: a tool that later sets another style would leak the first one.
+  // At exit the application deletes its current style either way.
+  QStyle* start_up_style = QApplication::style();
+  if (!start_up_style->parent())
+    start_up_style->setParent(this);
   if (gen_config_vars().get_bool(QStringLiteral("orq_app_debug_break"), false))
     gen_process().debug_break();
   orq_install_full_message_handler();

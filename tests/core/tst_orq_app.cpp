@@ -44,21 +44,15 @@ void recording_handler(QtMsgType, const QMessageLogContext&, const QString& mess
 }
 
 // A tool calls copy_argv_for_qt once, before Qt starts. Calling it again in
-// a running test process must leave the test's message handler in place, and
-// the style it replaces is deleted here, since only the last style set
-// belongs to the application.
+// a running test process must leave the test's message handler in place; the
+// style it replaces belongs to the application, which deletes it.
 char** copy_argv_again(int argc, const char** argv, bool restore_handler = true)
 {
   const QtMessageHandler handler = qInstallMessageHandler(nullptr);
   qInstallMessageHandler(handler);
-  // Qt deletes a replaced style it owns; the first one, set before the
-  // application existed, it does not.
-  QPointer<QStyle> replaced = QApplication::style();
   char** copy = ORQ_APP::copy_argv_for_qt(argc, argv);
   if (restore_handler)
     qInstallMessageHandler(handler);
-  if (replaced && replaced != QApplication::style())
-    delete replaced.data();
   return copy;
 }
 
@@ -88,6 +82,19 @@ private slots:
     ORQ_MAIN_WINDOW window;
     QCOMPARE(orq_get_app()->get_main_window(), &window);
     QCOMPARE(orq_get_app()->get_main_frame(), &window);
+  }
+
+  // Runs before anything here replaces the style, so that it sees the one
+  // copy_argv_for_qt set before the application existed.
+  void replaced_start_up_style_is_deleted()
+  {
+    const QPointer<QStyle> start_up = QApplication::style();
+    QVERIFY(qobject_cast<ORQ_PROXY_STYLE*>(start_up.data()));
+    QCOMPARE(start_up->parent(), qApp);
+    // A tool that switches styles must not leave the first one behind.
+    QApplication::setStyle(new ORQ_PROXY_STYLE);
+    QVERIFY(start_up.isNull());
+    QVERIFY(qobject_cast<ORQ_PROXY_STYLE*>(QApplication::style()));
   }
 
   void copy_argv_for_qt_data()
