@@ -24,7 +24,10 @@ FLOORPLAN_DEMO run_floorplan_demo(FLOORPLAN_WINDOW& window, const QString& kind,
 // into the filter line, then the filter cleared with its button; the
 // screenshot at that stage. Kind "export-hierarchy" with a file name: File >
 // Export Hierarchy... with the name typed into its dialog and any question
-// or error that follows answered.
+// or error that follows answered. Kind "variants" with variant names
+// ("SRAM_64K_HS,PLL_FRAC", or none for a few): Tools > Block Variants...,
+// a click on each name's row for the first macro offering it, the window
+// and the report in the picture.
 FLOORPLAN_DEMO run_report_demo(FLOORPLAN_WINDOW& window, const QString& kind, const QString& argument);
 
 // Changes a column of the Hierarchy panel as a user does: "hide:NAME" and

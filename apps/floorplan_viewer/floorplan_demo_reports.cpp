@@ -1,9 +1,13 @@
 // The demos of the reports: the hierarchy before a filter, while it filters
 // and once it is cleared; File > Export Hierarchy... answered as a user
-// answers it; the Hierarchy panel's columns changed on the header.
+// answers it; the Hierarchy panel's columns changed on the header; variants
+// picked in the Block Variants report.
 #include "floorplan_demo.h"
 
+#include "block_variants_report.h"
 #include "floorplan_demo_p.h"
+#include "floorplan_variants.h"
+#include "floorplan_view.h"
 #include "floorplan_window.h"
 
 #include <orq_line_edit_filter.h>
@@ -19,6 +23,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -289,6 +294,82 @@ FLOORPLAN_DEMO export_hierarchy_demo(FLOORPLAN_WINDOW& window, const QString& fi
   return demo;
 }
 
+// The window with the report's dialog where it stands beside it, as the
+// user sees them together.
+QImage grab_with_dialog(FLOORPLAN_WINDOW& window, QWidget* dialog)
+{
+  const QImage shown = settled_grab(window);
+  const QRect frame = dialog->frameGeometry();
+  const QRect bounds = window.geometry() | frame;
+  QImage canvas(bounds.size(), QImage::Format_RGB32);
+  canvas.fill(QColor(0x50, 0x55, 0x5c));
+  QPainter painter(&canvas);
+  painter.drawImage(window.geometry().topLeft() - bounds.topLeft(), shown);
+  const QPoint at = dialog->geometry().topLeft() - bounds.topLeft();
+  painter.fillRect(QRect(at + QPoint(5, 5), dialog->size()), QColor(0, 0, 0, 90));
+  painter.drawImage(at, dialog->grab().toImage());
+  painter.setPen(QColor(0x30, 0x30, 0x30));
+  painter.drawRect(QRect(at, dialog->size()).adjusted(0, 0, -1, -1));
+  return canvas;
+}
+
+// Tools > Block Variants..., then a click on each named variant's row, for
+// the first macro that offers it.
+FLOORPLAN_DEMO variants_demo(FLOORPLAN_WINDOW& window, const QString& argument)
+{
+  FLOORPLAN_DEMO demo;
+  QAction* action = window.findChild<QAction*>(QStringLiteral("FPV_BLOCK_VARIANTS_ACTION"));
+  if (!action) {
+    demo.error = QStringLiteral("variants: Tools > Block Variants... is not there");
+    return demo;
+  }
+  action->trigger();
+  auto* report = window.findChild<BLOCK_VARIANTS_REPORT*>();
+  if (!report || !report->isVisible()) {
+    demo.error = QStringLiteral("variants: Tools > Block Variants... showed no report");
+    return demo;
+  }
+  QCoreApplication::processEvents();
+  ORQ_TREE_VIEW* view = report->view();
+  QAbstractItemModel* model = view->model();
+  const QStringList wanted = argument.isEmpty()
+                                 ? QStringList{QStringLiteral("SRAM_64K_HS"), QStringLiteral("PLL_FRAC"),
+                                               QStringLiteral("SERDES_X4_LP")}
+                                 : argument.split(QLatin1Char(','), Qt::SkipEmptyParts);
+  QStringList clicked;
+  for (const QString& name : wanted) {
+    QModelIndex found;
+    for (int b = 0; b < model->rowCount() && !found.isValid(); ++b)
+      for (int v = 0; v < model->rowCount(model->index(b, 0)) && !found.isValid(); ++v)
+        if (model->index(v, 0, model->index(b, 0)).data().toString() == name)
+          found = model->index(v, 0, model->index(b, 0));
+    if (!found.isValid()) {
+      demo.error = QStringLiteral("variants: no macro offers %1").arg(name);
+      return demo;
+    }
+    view->scrollTo(found);
+    demo_click(view->viewport(), view->visualRect(found).center());
+    clicked << QStringLiteral("%1 of %2").arg(name, found.parent().data().toString());
+  }
+  // Beside the window, so the picture shows the whole plan with it.
+  view->scrollToTop();
+  report->window()->move(window.geometry().topRight() + QPoint(16, 60));
+  QStringList drawn;
+  const FLOORPLAN& plan = window.view()->floorplan();
+  for (int b = 0; b < plan.blocks.size(); ++b) {
+    const int variant = window.view()->block_variant(b);
+    if (variant > 0)
+      drawn << plan.blocks.at(b).name + QLatin1Char(' ') +
+                   fp_block_variants(plan.blocks.at(b).cell).at(variant).tag;
+  }
+  demo.image = grab_with_dialog(window, report->window());
+  demo.report =
+      QStringLiteral("variants: clicked %1; on: %2; the plan draws %3")
+          .arg(clicked.join(QStringLiteral(", ")), report->choices_text(),
+               drawn.isEmpty() ? QStringLiteral("first variants only") : drawn.join(QStringLiteral(", ")));
+  return demo;
+}
+
 } // namespace
 
 QString change_hierarchy_column(FLOORPLAN_WINDOW& window, const QString& change)
@@ -326,6 +407,8 @@ FLOORPLAN_DEMO run_report_demo(FLOORPLAN_WINDOW& window, const QString& kind, co
     return hierarchy_demo(window, argument);
   if (kind == QLatin1String("export-hierarchy"))
     return export_hierarchy_demo(window, argument);
+  if (kind == QLatin1String("variants"))
+    return variants_demo(window, argument);
   FLOORPLAN_DEMO demo;
   demo.error = QStringLiteral("unknown kind \"%1\"").arg(kind);
   return demo;

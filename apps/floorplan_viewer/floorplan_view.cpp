@@ -1,5 +1,9 @@
 #include "floorplan_view.h"
 
+#include "floorplan_variants.h"
+
+#include <orq_font.h>
+
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -45,8 +49,62 @@ void FLOORPLAN_VIEW::set_data(std::unique_ptr<FLOORPLAN_DATA> data)
   m_selection.reset(m_data->plan().shapes.size());
   m_selected_rect = QRect();
   set_logical_size(m_data->plan().die.adjusted(-k_margin, -k_margin, k_margin, k_margin));
+  m_block_variants.clear();
+  for (const FLOORPLAN_BLOCK& block : m_data->plan().blocks)
+    m_block_variants.append(fp_block_variants(block.cell).isEmpty() ? -1 : 0);
   update();
   emit selection_changed(selection_text());
+  emit data_replaced();
+}
+
+int FLOORPLAN_VIEW::block_variant(int block) const
+{
+  return m_block_variants.value(block, -1);
+}
+
+bool FLOORPLAN_VIEW::set_block_variant(int block, int variant)
+{
+  if (block < 0 || block >= m_block_variants.size() || variant < 0 ||
+      variant >= fp_block_variants(floorplan().blocks.at(block).cell).size())
+    return false;
+  if (m_block_variants[block] != variant) {
+    m_block_variants[block] = variant;
+    update();
+    emit block_variant_changed(block, variant);
+  }
+  return true;
+}
+
+void FLOORPLAN_VIEW::paint_block_variants(QPainter* painter) const
+{
+  // In device pixels, so the outline and the tag read the same at any zoom.
+  const QTransform to_device = painter->combinedTransform();
+  painter->save();
+  painter->resetTransform();
+  const ORQ_FONT font(ORQ_FPV_CELL_TYPE_FONT);
+  painter->setFont(font.get_font());
+  const QFontMetrics metrics(painter->font(), painter->device());
+  for (int b = 0; b < m_block_variants.size(); ++b) {
+    if (m_block_variants[b] < 0)
+      continue;
+    const FLOORPLAN_BLOCK& block = floorplan().blocks.at(b);
+    const FP_BLOCK_VARIANT variant = fp_block_variants(block.cell).value(m_block_variants[b]);
+    const QRectF device = to_device.mapRect(QRectF(block.rect));
+    if (device.width() < 8 || device.height() < 8)
+      continue;
+    painter->setPen(QPen(variant.color, 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(device.adjusted(3, 3, -3, -3));
+    // The tag in the bottom-left corner, where the name's plate is not.
+    const QSize tag(metrics.horizontalAdvance(variant.tag) + 6, metrics.height() + 2);
+    if (device.width() < tag.width() + 8 || device.height() < tag.height() * 3)
+      continue;
+    const QRectF plate(device.left() + 4, device.bottom() - 4 - tag.height(), tag.width(), tag.height());
+    painter->fillRect(plate, variant.color);
+    painter->setPen(Qt::black);
+    painter->drawText(plate, Qt::AlignCenter, variant.tag);
+  }
+  painter->restore();
 }
 
 QString FLOORPLAN_VIEW::selection_text() const
@@ -66,6 +124,7 @@ void FLOORPLAN_VIEW::paint(QPainter* painter, QPaintEvent*, QWidget*, QRect rect
   if (printing && painter->device())
     options.detail_scale = std::min(1.0, k_print_detail_dpi / std::max(1, painter->device()->logicalDpiX()));
   const FP_PAINT_STATS stats = m_renderer.paint(painter, visible, options, &m_selection);
+  paint_block_variants(painter);
   if (!printing && !get_paint_magnify_glass())
     m_last_stats = stats;
 }

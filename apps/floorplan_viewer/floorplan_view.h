@@ -39,6 +39,13 @@ public:
   bool print(QPrinter* printer);
   // What the last frame on the screen drew.
   const FP_PAINT_STATS& last_paint_stats() const { return m_last_stats; }
+  // The implementation each block uses, an index into fp_block_variants()
+  // of its cell; -1 for a block without variants. New data starts every
+  // macro on its first variant.
+  int block_variant(int block) const;
+  // Drawn on the macro at once; false for a block or variant that is not
+  // there.
+  bool set_block_variant(int block, int variant);
 
   void paint(QPainter* painter, QPaintEvent* event, QWidget* target, QRect rect, bool printing) override;
   void paint_birds_eye_view(QPainter* painter, QPaintEvent* event, QWidget* target, QRect rect) override;
@@ -56,12 +63,16 @@ public slots:
 signals:
   void block_hovered(const QString& text);
   void selection_changed(const QString& text);
+  void block_variant_changed(int block, int variant);
+  // Other data is shown: other blocks, each on its first variant.
+  void data_replaced();
 
 protected:
   void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
   void apply_selection(std::vector<std::uint32_t> ids, FLOORPLAN_SELECTION::MODE mode);
+  void paint_block_variants(QPainter* painter) const;
 
   std::unique_ptr<FLOORPLAN_DATA> m_data;
   FLOORPLAN_RENDERER m_renderer;
@@ -70,4 +81,5 @@ private:
   bool m_show_pads = true;
   bool m_show_block_names = true;
   FP_PAINT_STATS m_last_stats;
+  QVector<int> m_block_variants;
 };

@@ -520,6 +520,7 @@ void FLOORPLAN_WINDOW::build_menus()
   QAction* planner = add_standard_action(tools, ORQ_START_PARTITION_PLANNER_ACTION);
   QAction* options = add_standard_action(tools, ORQ_OPTIONS_ACTION);
   connect(options, &QAction::triggered, this, &FLOORPLAN_WINDOW::open_options);
+  build_variants_action(tools);
 
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
   QAction* topics = add_standard_action(help, ORQ_VANTOR_HELP_ACTION);

@@ -68,6 +68,8 @@ public slots:
   void export_pdf_dialog();
   // File > Export Hierarchy...: asks for a file, tells what went wrong.
   void export_hierarchy_dialog();
+  // Tools > Block Variants...: the report, shown beside the window.
+  ORQ_DIALOG* open_block_variants();
   // View > Reset Layout: panels docked, pinned and open where they started.
   void reset_layout();
   // Tools > Options: the theme colours and fonts. Returns the dialog result.
@@ -93,6 +95,7 @@ private:
 
   void build_zoom_actions(QMenu* view_menu);
   void build_report_actions(QMenu* file_menu);
+  void build_variants_action(QMenu* tools_menu);
   void show_mode_hint();
   void fill_block_list();
   void fit_while_untouched();
@@ -108,6 +111,7 @@ private:
   FLOORPLAN_VIEW* m_view;
   QPlainTextEdit* m_block_list;
   QWidget* m_hierarchy = nullptr;
+  QPointer<ORQ_DIALOG> m_variants;
   QList<ORQ_DOCK_WIDGET*> m_panels;
   QByteArray m_default_layout;
   QLabel* m_hover;

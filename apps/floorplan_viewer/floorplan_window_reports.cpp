@@ -1,13 +1,20 @@
-// The main window's reports: the hierarchy written to a text file.
+// The main window's reports: the hierarchy written to a text file, and the
+// Block Variants report beside the plan.
 #include "floorplan_window.h"
+
+#include "block_variants_report.h"
 
 #include <orq_message_box.h>
 
 #include <gen_message_service.h>
 
+#include <orq_dialog.h>
+
 #include <QAction>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QMenu>
+#include <QVBoxLayout>
 
 void FLOORPLAN_WINDOW::build_report_actions(QMenu* file_menu)
 {
@@ -49,4 +56,36 @@ void FLOORPLAN_WINDOW::export_hierarchy_dialog()
   // In the Messages panel as well, where it stays after the box is gone.
   gen_message_service().warning(problem);
   orq_message_box(problem, GEN_PROMPT_TYPE::ERROR, this);
+}
+
+void FLOORPLAN_WINDOW::build_variants_action(QMenu* tools_menu)
+{
+  auto* variants = new QAction(QStringLiteral("Block &Variants..."), this);
+  variants->setObjectName(QStringLiteral("FPV_BLOCK_VARIANTS_ACTION"));
+  variants->setStatusTip(QStringLiteral("Picks the implementation each macro is built from"));
+  tools_menu->addAction(variants);
+  connect(variants, &QAction::triggered, this, &FLOORPLAN_WINDOW::open_block_variants);
+}
+
+ORQ_DIALOG* FLOORPLAN_WINDOW::open_block_variants()
+{
+  // One report for the window's life, beside the plan rather than over it:
+  // the user watches the macros change while picking.
+  if (!m_variants) {
+    m_variants = new ORQ_DIALOG(this);
+    m_variants->setObjectName(QStringLiteral("block_variants_dialog"));
+    m_variants->setWindowTitle(QStringLiteral("Block Variants"));
+    auto* report = new BLOCK_VARIANTS_REPORT(m_view, m_variants);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, m_variants);
+    auto* layout = new QVBoxLayout(m_variants);
+    layout->addWidget(report);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, m_variants, &QDialog::close);
+    m_variants->resize(560, 440);
+    m_variants->move(geometry().topRight() - QPoint(m_variants->width() + 40, -120));
+  }
+  m_variants->show();
+  m_variants->raise();
+  m_variants->activateWindow();
+  return m_variants;
 }

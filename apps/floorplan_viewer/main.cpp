@@ -108,7 +108,8 @@ int main(int argc, char** argv)
           "zoom-drag or gesture at X,Y (the next argument; pixels from the visible top-left of the "
           "floor plan), or set-zoom with the per cent to type into the dialog that a click on the "
           "zoom read-out opens; hierarchy before, filtered or cleared: a place in the Hierarchy panel, "
-          "then a filter typed, then cleared; export-hierarchy FILE through its dialog."),
+          "then a filter typed, then cleared; export-hierarchy FILE through its dialog; variants with "
+          "variant names to click in the Block Variants report."),
       QStringLiteral("kind"));
   demo.setFlags(QCommandLineOption::HiddenFromHelp);
   parser.addOptions({screenshot, seed, blocks, shapes, options_shot, icons, trigger, hierarchy_rows, filter,

@@ -1,14 +1,16 @@
 // The viewer's reports, run as a user runs the tool: the Hierarchy panel's
 // columns across restarts, File > Export Hierarchy... and its dialog, the
-// filter demo's way back to the user's place.
+// filter demo's way back to the user's place, and Block Variants.
 #include "orq_test_support.h"
 
 #include "design_hierarchy.h"
+#include "floorplan_model.h"
 #include "hierarchy_expectations.h"
 #include "viewer_process.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QLocale>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -246,6 +248,62 @@ private slots:
              qPrintable(cleared.captured(1)));
     QCOMPARE(printed(out, QStringLiteral("hierarchy")),
              QStringLiteral("Hierarchy: %1 rows").arg(QLocale(QLocale::English).toString(rows)));
+  }
+
+  void block_variants_picked_in_the_report_show_on_the_plan_data()
+  {
+    QTest::addColumn<QString>("clicked");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("expected");
+    // "<cell> <tag>": the first macro of that cell with that tag drawn on it.
+    QTest::newRow("a memory's third") << "SRAM_64K_2P" << 0 << "SRAM_64K 2P";
+    QTest::newRow("a PLL, then its third") << "PLL_FRAC,PLL_LC" << 0 << "PLL LC";
+    QTest::newRow("a variant no macro offers")
+        << "SRAM_64K_9P" << 1 << "--demo variants: no macro offers SRAM_64K_9P";
+  }
+
+  // Tools > Block Variants... and a click on a variant's row, in a viewer
+  // started as a user starts it: the report turns the row on and its
+  // siblings off, and the plan draws it.
+  void block_variants_picked_in_the_report_show_on_the_plan()
+  {
+    QFETCH(QString, clicked);
+    QFETCH(int, code);
+    QFETCH(QString, expected);
+    QTemporaryDir home;
+    const QString png = home.filePath(QStringLiteral("shot.png"));
+    QString out;
+    QString err;
+    QCOMPARE(run_viewer(home.path(),
+                        {QStringLiteral("--shapes"), QStringLiteral("100000"), QStringLiteral("--demo"),
+                         QStringLiteral("variants"), clicked, QStringLiteral("--screenshot"), png},
+                        &err, &out),
+             code);
+    if (code != 0) {
+      QVERIFY2(err.contains(QStringLiteral("floorplan_viewer: ") + expected), qPrintable(err));
+      return;
+    }
+    const QRegularExpressionMatch said =
+        QRegularExpression(QStringLiteral("demo: variants: clicked (.*); on: (.*); the plan draws (.*)\n"))
+            .match(out);
+    QVERIFY2(said.hasMatch(), qPrintable(out + err));
+    const QString last = clicked.split(QLatin1Char(',')).last();
+    // One variant on per macro, the clicked one among them, and the plan
+    // drawing it where it left the first.
+    const QStringList on = said.captured(2).split(QStringLiteral("; "));
+    QVERIFY2(on.filter(last).size() == 1, qPrintable(said.captured(2)));
+    for (const QString& choice : on)
+      QCOMPARE(choice.count(QLatin1Char(' ')), 1);
+    const FLOORPLAN plan = make_floorplan(7, 18, 100000);
+    const QString cell = expected.section(QLatin1Char(' '), 0, 0);
+    QString macro;
+    for (const FLOORPLAN_BLOCK& block : plan.blocks)
+      if (macro.isEmpty() && block.cell == cell)
+        macro = block.name;
+    QCOMPARE(said.captured(3), macro + QLatin1Char(' ') + expected.section(QLatin1Char(' '), 1));
+    // The report stands beside the window in the picture.
+    const QImage image(png);
+    QVERIFY2(image.width() > 1280 + 400, qPrintable(QString::number(image.width())));
   }
 };
 
