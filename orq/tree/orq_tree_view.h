@@ -14,8 +14,10 @@
 #include <QString>
 #include <QTreeView>
 
+#include <memory>
 #include <ostream>
 
+class ORQ_TREE_PATH_MEMORY;
 class QKeyEvent;
 class QMenu;
 class QStandardItem;
@@ -41,7 +43,8 @@ public:
   void set_remember_check_states(bool remember);
   bool remembers_check_states() const;
   // What saving remembered, by row path: expanded states, and check states
-  // as 0 unchecked, 1 partially checked, 2 checked.
+  // as 0 unchecked, 1 partially checked, 2 checked. Each is made when asked
+  // for, from the memory as it is then: ask again after saving.
   const QMap<QString, bool>& expansion_memory() const;
   const QMap<QString, int>& check_state_memory() const;
 
@@ -85,13 +88,20 @@ private slots:
   void show_column_selection_menu();
 
 private:
-  void remember_row(const QModelIndex& row);
-  void restore_row(const QModelIndex& row);
-  QString registry_key() const;
-  bool write_row(const QModelIndex& index, std::ostream& stream, int level);
+  struct RESTORE_WALK;
 
-  QMap<QString, bool> m_expansion_memory;
-  QMap<QString, int> m_check_state_memory;
+  void remember(const QModelIndex& row, int node, int children);
+  void remember_row(const QModelIndex& row);
+  void remember_subtree(const QModelIndex& index);
+  void remember_children(const QModelIndex& row, const QStandardItem* item, int node);
+  bool remembered_expanded(const QString& path) const;
+  void restore_row(const QModelIndex& row);
+  void restore_subtree(RESTORE_WALK& walk, const QModelIndex& index);
+  void restore_children(RESTORE_WALK& walk, const QModelIndex& row, const QStandardItem* item, int node);
+  QString registry_key() const;
+
+  // The expansion memory and the check-state memory, both by row path.
+  std::unique_ptr<ORQ_TREE_PATH_MEMORY> m_memory;
   bool m_check_state_switch = false;
   QBitArray m_always_hidden_columns;
   QString m_registry_string;
