@@ -328,7 +328,7 @@ private slots:
     }
     // Above the size where a keystroke that changes many runs of rows is
     // announced as a layout change.
-    for (quint32 seed = 101; seed <= 100 + quint32(orq_test_rounds(4, 2)); ++seed)
+    for (quint32 seed = 101; seed <= 100 + quint32(orq_test_rounds(4, 1)); ++seed)
       QTest::addRow("seed %u, %d rows, expanded views", seed, 2000 + 50 * int(seed - 100))
           << seed << true << 2000 + 50 * int(seed - 100);
   }
@@ -342,7 +342,7 @@ private slots:
     test.filter(QString(), true); // the count is shared: start it for this case
     const QList<QList<int>> column_lists{{}, {0}, {1, 0}, {0, 0}, {2}, {1}};
     const QList<int> key_columns{0, 0, 1, -1, 7};
-    const int steps = rows > 2000 ? orq_test_rounds(6, 3) : orq_test_rounds(9, 3);
+    const int steps = rows > 2000 ? orq_test_rounds(6, 2) : orq_test_rounds(9, 3);
     int checks = 0;
     for (int combination = 0; combination < 8; ++combination) {
       const bool include_child = combination & 1;

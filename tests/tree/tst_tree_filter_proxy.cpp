@@ -309,7 +309,7 @@ private slots:
     QTest::addColumn<int>("modules");
     QTest::addColumn<bool>("layout_change");
     QTest::newRow("small tree, rows removed in place") << 8 << false;
-    QTest::newRow("6,710 rows, one layout change") << 110 << true;
+    QTest::newRow("2,440 rows, one layout change") << 40 << true;
   }
 
   void keystrokes_keep_the_users_place()
