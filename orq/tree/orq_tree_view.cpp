@@ -329,6 +329,10 @@ void ORQ_TREE_VIEW::remember(const QModelIndex& row, int node, int children)
 // By the whole path string: for any model, and for rows whose texts hold "|".
 void ORQ_TREE_VIEW::remember_row(const QModelIndex& row)
 {
+  // Rows without columns have no index; taken for the top level they would
+  // be walked again without end.
+  if (!row.isValid())
+    return;
   QAbstractItemModel* view_model = model();
   const QString path = get_path(row);
   if (row.isValid())
@@ -473,6 +477,8 @@ bool ORQ_TREE_VIEW::remembered_expanded(const QString& path) const
 // By the whole path string, row by row.
 void ORQ_TREE_VIEW::restore_row(const QModelIndex& row)
 {
+  if (!row.isValid()) // a row without columns: nothing to open
+    return;
   QAbstractItemModel* view_model = model();
   setExpanded(row, remembered_expanded(get_path(row)));
   // Deliberate: restored rows become partially checked; the saved states are a record, not put back.
@@ -506,8 +512,9 @@ void ORQ_TREE_VIEW::restore_children(RESTORE_WALK& walk, const QModelIndex& row,
   int cursor = node != ORQ_TREE_PATH_MEMORY::NONE ? m_memory->first_child(node) : ORQ_TREE_PATH_MEMORY::NONE;
   for (int r = 0; r < view_model->rowCount(row); ++r) {
     const QModelIndex child_index = view_model->index(r, 0, row);
-    const QStandardItem* child =
-        walk.steady() && child_index.isValid() ? view_model->itemFromIndex(child_index) : nullptr;
+    if (!child_index.isValid())
+      continue;
+    const QStandardItem* child = walk.steady() ? view_model->itemFromIndex(child_index) : nullptr;
     const bool stepping = child && child->parent() == item;
     const DISPLAY_TEXT text(stepping ? child : nullptr);
     if (!stepping || !ORQ_TREE_PATH_MEMORY::is_plain(text.text())) {

@@ -218,6 +218,22 @@ private slots:
     QCOMPARE(expansion(*f.view), QStringLiteral("[A[B+[C]] D[E]]"));
   }
 
+  // QStandardItem::setRowCount on an item without columns makes rows that
+  // have no index at all.
+  void rows_without_columns_are_passed_over()
+  {
+    FIXTURE f(QStringLiteral("[A[B[C]] D]"));
+    f.model.itemFromIndex(f.at(QStringLiteral("D")))->setRowCount(2);
+    f.view->expand(f.at(QStringLiteral("A")));
+    f.view->save_expandable_state(QModelIndex(), true);
+    f.view->save_expandable_state(f.at(QStringLiteral("D")), false);
+    f.view->collapseAll();
+    QVERIFY(f.view->restore_expandable_state());
+    QVERIFY(f.view->restore_expandable_state(f.at(QStringLiteral("D"))));
+    QVERIFY(f.view->isExpanded(f.at(QStringLiteral("A"))));
+    QVERIFY(!f.view->isExpanded(f.at(QStringLiteral("B"))));
+  }
+
   void a_leaf_is_remembered_as_expanded()
   {
     FIXTURE f(QStringLiteral("[A[B C]]"));
